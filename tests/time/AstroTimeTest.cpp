@@ -61,21 +61,25 @@ const KnownDate kMeeusDates[] = {
 
 constexpr double kMjdOfJd0 = -2400000.5;
 
-} // namespace
-
-TEST(AstroTimeMjd, KnownDatesGiveTheirModifiedJulianDate)
+// A change-over rule: the given occurrence of a weekday (0 Sunday) in a month, at an hour.
+_SYSTEMTIME Rule(unsigned month, unsigned weekday, unsigned occurrence, unsigned hour)
 {
-    for (const KnownDate& known : kMeeusDates) {
-        SCOPED_TRACE(known.year * 10000 + known.month * 100 + known.day);
-        AstroTime time(known.day, known.month, known.year, known.hours);
-        EXPECT_NEAR(time.GetMJD(), known.jd + kMjdOfJd0, 1e-6);
-    }
+    _SYSTEMTIME rule{};
+    rule.wMonth = static_cast<std::uint16_t>(month);
+    rule.wDayOfWeek = static_cast<std::uint16_t>(weekday);
+    rule.wDay = static_cast<std::uint16_t>(occurrence);
+    rule.wHour = static_cast<std::uint16_t>(hour);
+    return rule;
 }
 
-TEST(AstroTimeMjd, KnownModifiedJulianDatesGiveTheirCalendarDate)
+} // namespace
+
+TEST(AstroTimeMjd, KnownDatesBothWays)
 {
     for (const KnownDate& known : kMeeusDates) {
         SCOPED_TRACE(known.year * 10000 + known.month * 100 + known.day);
+        EXPECT_NEAR(AstroTime(known.day, known.month, known.year, known.hours).GetMJD(),
+                    known.jd + kMjdOfJd0, 1e-6);
         AstroTime time(known.jd + kMjdOfJd0, false);
         ExpectDate(time, known.year, known.month, known.day);
         double hours = time.GetHour() + (time.GetMinute() + time.GetSecond() / 60.0) / 60.0;
@@ -85,41 +89,27 @@ TEST(AstroTimeMjd, KnownModifiedJulianDatesGiveTheirCalendarDate)
 
 TEST(AstroTimeMjd, EpochsOfTheScale)
 {
-    EXPECT_DOUBLE_EQ(AstroTime(1, 1, 2000, 12.0).GetMJD(), 51544.5);
     EXPECT_DOUBLE_EQ(AstroTime(1, 1, 2000, 12.0).GetCenturiesSince2000(), 0.0);
+    EXPECT_DOUBLE_EQ(AstroTime(1, 1, 2100, 12.0).GetCenturiesSince2000(), 1.0);
     EXPECT_DOUBLE_EQ(AstroTime(17, 11, 1858, 0.0).GetMJD(), 0.0);
     // The Unix epoch, 1970 January 1, is MJD 40587.
     EXPECT_DOUBLE_EQ(AstroTime(1, 1, 1970, 0.0).GetMJD(), 40587.0);
-
-    AstroTime zero(0.0, false);
-    ExpectDate(zero, 1858, 11, 17);
-    ExpectClock(zero, 0, 0, 0.0);
-}
-
-TEST(AstroTimeMjd, CenturiesCountJulianCenturiesFromJ2000)
-{
-    EXPECT_DOUBLE_EQ(AstroTime(1, 1, 2100, 12.0).GetCenturiesSince2000(), 1.0);
-    EXPECT_DOUBLE_EQ(AstroTime(1, 1, 1900, 12.0).GetCenturiesSince2000(), -36524.0 / 36525.0);
+    ExpectDate(AstroTime(0.0, false), 1858, 11, 17);
 }
 
 TEST(AstroTimeMjd, CachedCenturiesFollowEveryChange)
 {
+    const double perDay = 1.0 / 36525.0;
     AstroTime time(1, 1, 2000, 12.0);
     EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), 0.0);
-
     time.SetFromFloatHour(0.0, false);
-    EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), -0.5 / 36525.0);
-
+    EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), -0.5 * perDay);
     time.IncrementMonth(12);
-    EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), (51910.0 - 51544.5) / 36525.0);
-
+    EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), 365.5 * perDay);
     time += TimeStep(TimeStep::DAYS, 1);
-    EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), (51911.0 - 51544.5) / 36525.0);
-
-    AstroTime other(1, 1, 2100, 12.0);
-    time.Copy(other);
+    EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), 366.5 * perDay);
+    time.Copy(AstroTime(1, 1, 2100, 12.0));
     EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), 1.0);
-
     StringParser parser("2000 January 1.5", " ", true);
     time.Initialize(parser, 1);
     EXPECT_DOUBLE_EQ(time.GetCenturiesSince2000(), 0.0);
@@ -186,19 +176,18 @@ TEST(AstroTimeCalendar, GregorianCalendarFollowsFourOctober1582)
     EXPECT_TRUE(lastJulian < firstGregorian);
 }
 
-TEST(AstroTimeCalendar, DaysDroppedIn1582ComeBackAsSeptember)
+TEST(AstroTimeCalendar, DroppedDaysLeapDaysAndOverflowingFields)
 {
-    AstroTime dropped(10, 10, 1582, 0.0);
-    EXPECT_DOUBLE_EQ(dropped.GetMJD(), -100845.0);
-    ExpectDate(AstroTime(dropped.GetMJD(), true), 1582, 9, 30);
-}
-
-TEST(AstroTimeCalendar, LeapDaysOfBothCalendars)
-{
+    // 10 October 1582 never was: read by the Gregorian rule it comes back as 30 September.
+    EXPECT_DOUBLE_EQ(AstroTime(10, 10, 1582, 0.0).GetMJD(), -100845.0);
+    ExpectDate(AstroTime(-100845.0, true), 1582, 9, 30);
     // 1500 is a Julian leap year, 1900 is no Gregorian one, 2000 is.
     ExpectDate(At(1, 3, 1500) - TimeStep(TimeStep::DAYS, 1), 1500, 2, 29);
     ExpectDate(At(1, 3, 1900) - TimeStep(TimeStep::DAYS, 1), 1900, 2, 28);
     ExpectDate(At(1, 3, 2000) - TimeStep(TimeStep::DAYS, 1), 2000, 2, 29);
+    // 31 November is 1 December, month 0 is December of the year before.
+    EXPECT_DOUBLE_EQ(AstroTime(31, 11, 2001, 0.0).GetMJD(), AstroTime(1, 12, 2001, 0.0).GetMJD());
+    EXPECT_DOUBLE_EQ(AstroTime(5, 0, 2001, 0.0).GetMJD(), AstroTime(5, 12, 2000, 0.0).GetMJD());
 }
 
 TEST(AstroTimeCalendar, YearZeroAndNegativeYears)
@@ -212,14 +201,6 @@ TEST(AstroTimeCalendar, YearZeroAndNegativeYears)
     ExpectDate(AstroTime(AstroTime(29, 2, -4, 0.0).GetMJD(), true), -4, 2, 29);
 }
 
-TEST(AstroTimeCalendar, FieldsOutOfRangeCarryThroughTheArithmetic)
-{
-    // 31 November is 1 December, month 0 is December of the year before.
-    EXPECT_DOUBLE_EQ(AstroTime(31, 11, 2001, 0.0).GetMJD(), AstroTime(1, 12, 2001, 0.0).GetMJD());
-    EXPECT_DOUBLE_EQ(AstroTime(5, 0, 2001, 0.0).GetMJD(), AstroTime(5, 12, 2000, 0.0).GetMJD());
-    EXPECT_DOUBLE_EQ(AstroTime(0, 1, 2001, 0.0).GetMJD(), AstroTime(31, 12, 2000, 0.0).GetMJD());
-}
-
 TEST(AstroTimeClock, MjdJustBeforeMidnightRoundsToHour24)
 {
     AstroTime time(51544.999999999, true);
@@ -227,44 +208,28 @@ TEST(AstroTimeClock, MjdJustBeforeMidnightRoundsToHour24)
     ExpectClock(time, 24, 0, 0.0);
 }
 
-TEST(AstroTimeClock, SecondsKeepTheirFractionUnlessRounded)
+TEST(AstroTimeClock, SecondsCarryIntoMinutesAndHoursButNotDays)
 {
     AstroTime exact(51544.0 + (3600.0 + 120.0 + 10.4) / 86400.0, false);
-    EXPECT_EQ(exact.GetHour(), 1u);
-    EXPECT_EQ(exact.GetMinute(), 2u);
     EXPECT_NEAR(exact.GetSecond(), 10.4, 1e-4);
+    ExpectClock(AstroTime(51544.0 + (3600.0 + 120.0 + 10.6) / 86400.0, true), 1, 2, 11.0);
 
-    AstroTime rounded(51544.0 + (3600.0 + 120.0 + 10.6) / 86400.0, true);
-    ExpectClock(rounded, 1, 2, 11.0);
-}
-
-TEST(AstroTimeClock, SetFromFloatHourCarriesSecondsAndMinutesButNotDays)
-{
-    AstroTime time(1, 1, 2000, 0.0);
-    time.SetFromFloatHour(12.75, false);
+    AstroTime time(1, 1, 2000, 12.75);
     ExpectClock(time, 12, 45, 0.0);
-
+    time.SetFromFloatHour(10.0 + 59.9999 / 3600.0, true);
+    ExpectClock(time, 10, 1, 0.0);
     time.SetFromFloatHour(23.0 + 59.0 / 60.0 + 59.7 / 3600.0, true);
     ExpectClock(time, 24, 0, 0.0);
     ExpectDate(time, 2000, 1, 1);
-
-    time.SetFromFloatHour(10.0 + 59.9999 / 3600.0, true);
-    ExpectClock(time, 10, 1, 0.0);
 }
 
 TEST(AstroTimeClock, BrokenDownSystemTime)
 {
-    std::tm parts{};
-    parts.tm_year = 99;
-    parts.tm_mon = 2;
-    parts.tm_mday = 3;
-    parts.tm_hour = 17;
-    parts.tm_min = 7;
-    parts.tm_sec = 9;
+    std::tm parts{
+        .tm_sec = 9, .tm_min = 7, .tm_hour = 17, .tm_mday = 3, .tm_mon = 2, .tm_year = 99};
     AstroTime time(parts);
     ExpectDate(time, 1999, 3, 3);
     ExpectClock(time, 17, 7, 9.0);
-    EXPECT_EQ(time.GetMode(), AstroTime::Clock24);
 }
 
 TEST(AstroTimeClock, NowIsTheSystemClockInUniversalTime)
@@ -293,23 +258,12 @@ TEST(AstroTimeCompare, EqualityIgnoresModeAndOrderFollowsTheMjd)
     AstroTime overflowed(31, 11, 2001, 0.0);
     EXPECT_FALSE(carried == overflowed);
     EXPECT_FALSE(carried < overflowed || carried > overflowed);
-}
 
-TEST(AstroTimeCompare, CopyTakesEveryFieldWithTheMode)
-{
-    AstroTime source = At(3, 3, 1999, 17, 7, 9, AstroTime::Clock12);
-    AstroTime target;
-    target.Copy(source);
-    EXPECT_TRUE(target == source);
-    EXPECT_EQ(target.GetMode(), AstroTime::Clock12);
-}
-
-TEST(AstroTimeCompare, DefaultIsAllZero)
-{
-    AstroTime time;
-    ExpectDate(time, 0, 0, 0);
-    ExpectClock(time, 0, 0, 0.0);
-    EXPECT_EQ(time.GetMode(), AstroTime::Clock24);
+    AstroTime copy;
+    ExpectDate(copy, 0, 0, 0);
+    copy.Copy(sameIn12);
+    EXPECT_TRUE(copy == morning);
+    EXPECT_EQ(copy.GetMode(), AstroTime::Clock12);
 }
 
 TEST(AstroTimeMonths, IncrementMonthWrapsYearsBothWays)
@@ -338,7 +292,6 @@ TEST(AstroTimeMonths, IncrementMonthWrapsYearsBothWays)
 TEST(AstroTimeMonths, NamesAndNumbers)
 {
     EXPECT_EQ(AstroTime::GetMonthName(1), "January");
-    EXPECT_EQ(AstroTime::GetMonthName(9), "September");
     EXPECT_EQ(AstroTime::GetMonthName(12), "December");
     EXPECT_EQ(AstroTime::GetMonthName(0), "");
     EXPECT_EQ(AstroTime::GetMonthName(13), "");
@@ -348,34 +301,23 @@ TEST(AstroTimeMonths, NamesAndNumbers)
     EXPECT_EQ(AstroTime::GetMonthNumber("MARCH"), 3u);
     EXPECT_EQ(AstroTime::GetMonthNumber("Mar"), 0u);
     EXPECT_EQ(AstroTime::GetMonthNumber(""), 0u);
-    EXPECT_EQ(AstroTime::GetMonthNumber("Marchx"), 0u);
 }
 
 TEST(AstroTimeEra, YearsWithAndWithoutEra)
 {
     long year = 0;
     AstroTime::AD_OR_BC era = AstroTime::AD;
-    At(1, 1, 1).GetYearWithADOrBC(year, era);
-    EXPECT_EQ(year, 1);
-    EXPECT_EQ(era, AstroTime::AD);
     At(1, 1, 0).GetYearWithADOrBC(year, era);
-    EXPECT_EQ(year, 1);
-    EXPECT_EQ(era, AstroTime::BC);
+    EXPECT_TRUE(year == 1 && era == AstroTime::BC);
     At(1, 1, -43).GetYearWithADOrBC(year, era);
-    EXPECT_EQ(year, 44);
-    EXPECT_EQ(era, AstroTime::BC);
-
+    EXPECT_TRUE(year == 44 && era == AstroTime::BC);
+    At(1, 1, 1).GetYearWithADOrBC(year, era);
+    EXPECT_TRUE(year == 1 && era == AstroTime::AD);
     EXPECT_EQ(AstroTime::GetYearWithoutADOrBC(44, AstroTime::BC), -43);
-    EXPECT_EQ(AstroTime::GetYearWithoutADOrBC(1, AstroTime::BC), 0);
     EXPECT_EQ(AstroTime::GetYearWithoutADOrBC(1999, AstroTime::AD), 1999);
-}
-
-TEST(AstroTimeText, YearString)
-{
     EXPECT_EQ(At(1, 1, 1).GetYearString(), "1");
     EXPECT_EQ(At(1, 1, 0).GetYearString(), "1BC");
     EXPECT_EQ(At(1, 1, -1).GetYearString(), "2BC");
-    EXPECT_EQ(At(1, 1, 1999).GetYearString(), "1999");
 }
 
 TEST(AstroTimeText, TwentyFourHourClock)
@@ -411,34 +353,17 @@ TEST(AstroTimeText, TwelveHourClock)
         EXPECT_EQ(time.GetDescription3(), c.description3);
     }
     AstroTime afternoon = At(15, 8, 2011, 13, 0, 0, AstroTime::Clock12);
-    EXPECT_EQ(afternoon.GetTimeString(), "1:00:00");
-    EXPECT_EQ(afternoon.GetDescription3(), "1:00:00pm");
     EXPECT_EQ(afternoon.GetDescription1(), "August 15, 2011 at 1 hours 00 minutes 00 seconds.");
-    EXPECT_EQ(afternoon.GetDescription2(), "August 15, 2011");
 }
 
-TEST(AstroTimeText, FieldsOfTwoDigitsAndTruncatedSeconds)
+TEST(AstroTimeText, TwoDigitFieldsTruncatedSecondsAndEras)
 {
     AstroTime time(51544.0 + (10.0 * 3600.0 + 42.0 * 60.0 + 59.9) / 86400.0, false);
-    EXPECT_EQ(time.GetMinuteString(), "42");
-    EXPECT_EQ(time.GetSecondString(), "59");
-    time.SetFromFloatHour(10.0 + 1.0 / 60.0, true);
-    EXPECT_EQ(time.GetMinuteString(), "01");
-    EXPECT_EQ(time.GetSecondString(), "00");
-}
-
-TEST(AstroTimeText, DatesBeforeTheEraAndUnnamedMonths)
-{
+    EXPECT_EQ(time.GetTimeString(), "10:42:59");
     EXPECT_EQ(At(15, 3, -43).GetDescription2(), "March 15, 44BC");
     EXPECT_EQ(AstroTime().GetDescription2(), " 0, 1BC");
-}
-
-TEST(AstroTimeText, NumbersAsText)
-{
     EXPECT_EQ(AstroTime::GetString(-42L), "-42");
     EXPECT_EQ(AstroTime::GetString(123.456789), "123.457");
-    EXPECT_EQ(AstroTime::GetString(0.5), "0.5");
-    EXPECT_EQ(AstroTime::GetString(1.0e-7), "1e-07");
 }
 
 TEST(AstroTimeCatalogue, ReadsYearMonthNameAndDayWithFraction)
@@ -451,103 +376,64 @@ TEST(AstroTimeCatalogue, ReadsYearMonthNameAndDayWithFraction)
     EXPECT_EQ(time.GetHour(), 11u);
     EXPECT_EQ(time.GetMinute(), 0u);
     EXPECT_NEAR(time.GetMJD(), 46470.459, 1e-9);
-}
 
-TEST(AstroTimeCatalogue, LeavesTheRestOfTheLineToTheCaller)
-{
-    StringParser parser("1997 March 31.724 0.914", " ", true);
-    AstroTime time;
-    EXPECT_TRUE(time.Initialize(parser, 1));
+    StringParser line("1997 March 31.724 0.914", " ", true);
+    EXPECT_TRUE(time.Initialize(line, 1));
     ExpectDate(time, 1997, 3, 31);
-    LorvString* next = parser.GetNextToken(nullptr);
+    LorvString* next = line.GetNextToken(nullptr);
     ASSERT_NE(next, nullptr);
     EXPECT_EQ(*next, "0.914");
 }
 
-TEST(AstroTimeCatalogue, OtherFormatsReadNothing)
+TEST(AstroTimeCatalogue, OtherFormatsReadNothingAndBadTokensStillGiveADate)
 {
     StringParser parser("1986 February 9.459", " ", true);
     AstroTime time = At(3, 3, 1999, 17, 7, 9);
-    AstroTime before = time;
-    EXPECT_FALSE(time.Initialize(parser, 0));
     EXPECT_FALSE(time.Initialize(parser, 2));
-    EXPECT_TRUE(time == before);
-    LorvString* first = parser.GetNextToken(nullptr);
-    ASSERT_NE(first, nullptr);
-    EXPECT_EQ(*first, "1986");
-}
+    EXPECT_TRUE(time == At(3, 3, 1999, 17, 7, 9));
+    EXPECT_EQ(*parser.GetNextToken(""), "1986");
 
-TEST(AstroTimeCatalogue, BadOrMissingTokensStillGiveADate)
-{
-    AstroTime time = At(3, 3, 1999, 17, 7, 9);
     StringParser unknownMonth("2001 Brumaire 12.25", " ", true);
     EXPECT_TRUE(time.Initialize(unknownMonth, 1));
     ExpectDate(time, 2001, 0, 12);
     ExpectClock(time, 6, 0, 0.0);
-
     StringParser empty("", " ", true);
     EXPECT_TRUE(time.Initialize(empty, 1));
     ExpectDate(time, 0, 0, 0);
-    ExpectClock(time, 0, 0, 0.0);
-
-    StringParser nonsense("x y -3.5", " ", true);
+    StringParser nonsense("x y -3.5e400", " ", true);
     EXPECT_TRUE(time.Initialize(nonsense, 1));
-    EXPECT_EQ(time.GetMonth(), 0u);
-    EXPECT_EQ(time.GetDay(), 0u);
+    ExpectDate(time, 0, 0, 0);
+    ExpectClock(time, 0, 0, 0.0);
 }
 
 TEST(AstroTimeZoneRule, WeekdayOccurrencesInTheMonth)
 {
-    // Known change-overs: in 2024 the United States began daylight saving on the second
-    // Sunday of March (10 March) and ended it on the first Sunday of November (3 November);
-    // the European Union began on the last Sunday of March (31 March) and ended on the last
-    // Sunday of October (27 October).
-    _SYSTEMTIME rule{};
-    rule.wMonth = 3;
-    rule.wDayOfWeek = 0;
-    rule.wDay = 2;
-    rule.wHour = 2;
-    AstroTime usStart(rule, 2024);
+    // In 2024 the United States began daylight saving on the second Sunday of March (10 March)
+    // and ended it on the first Sunday of November (3 November); the European Union changed on
+    // the last Sundays of March (31 March) and October (27 October; 29 October in 2023).
+    AstroTime usStart(Rule(3, 0, 2, 2), 2024);
     ExpectDate(usStart, 2024, 3, 10);
     ExpectClock(usStart, 2, 0, 0.0);
-
-    rule.wMonth = 11;
-    rule.wDay = 1;
-    ExpectDate(AstroTime(rule, 2024), 2024, 11, 3);
-
-    rule.wMonth = 3;
-    rule.wDay = 5;
-    rule.wHour = 1;
-    ExpectDate(AstroTime(rule, 2024), 2024, 3, 31);
-    rule.wMonth = 10;
-    ExpectDate(AstroTime(rule, 2024), 2024, 10, 27);
-    ExpectDate(AstroTime(rule, 2023), 2023, 10, 29);
-
+    ExpectDate(AstroTime(Rule(11, 0, 1, 2), 2024), 2024, 11, 3);
+    ExpectDate(AstroTime(Rule(3, 0, 5, 1), 2024), 2024, 3, 31);
+    ExpectDate(AstroTime(Rule(10, 0, 5, 1), 2024), 2024, 10, 27);
+    ExpectDate(AstroTime(Rule(10, 0, 5, 1), 2023), 2023, 10, 29);
     // February 2023 has four Sundays: occurrence 5 is the last, the 26th.
-    rule.wMonth = 2;
-    ExpectDate(AstroTime(rule, 2023), 2023, 2, 26);
+    ExpectDate(AstroTime(Rule(2, 0, 5, 1), 2023), 2023, 2, 26);
 }
 
-TEST(AstroTimeZoneRule, EveryWeekdayOnceInTheFirstWeek)
+TEST(AstroTimeZoneRule, FirstOccurrencesFillTheFirstWeekAndLastOnesTheFinalWeek)
 {
     for (int year : {1999, 2000, 2024, 2100}) {
-        for (std::uint16_t month = 1; month <= 12; ++month) {
+        for (unsigned month = 1; month <= 12; ++month) {
             bool seen[8] = {};
-            for (std::uint16_t weekday = 0; weekday < 7; ++weekday) {
-                _SYSTEMTIME rule{};
-                rule.wMonth = month;
-                rule.wDayOfWeek = weekday;
-                rule.wDay = 1;
-                unsigned day = AstroTime(rule, year).GetDay();
-                ASSERT_GE(day, 1u);
-                ASSERT_LE(day, 7u);
-                seen[day] = true;
-                // The last occurrence lies in the month's final week.
-                rule.wDay = 5;
-                AstroTime last(rule, year);
-                AstroTime weekLater = last + TimeStep(TimeStep::DAYS, 7);
-                EXPECT_NE(weekLater.GetMonth(), last.GetMonth()) << year << "-" << month;
+            for (unsigned weekday = 0; weekday < 7; ++weekday) {
+                unsigned first = AstroTime(Rule(month, weekday, 1, 0), year).GetDay();
+                ASSERT_TRUE(first >= 1 && first <= 7);
+                seen[first] = true;
+                AstroTime last(Rule(month, weekday, 5, 0), year);
                 EXPECT_EQ(last.GetMonth(), month);
+                EXPECT_NE((last + TimeStep(TimeStep::DAYS, 7)).GetMonth(), month);
             }
             for (unsigned day = 1; day <= 7; ++day) {
                 EXPECT_TRUE(seen[day]) << year << "-" << month << " day " << day;
@@ -558,67 +444,41 @@ TEST(AstroTimeZoneRule, EveryWeekdayOnceInTheFirstWeek)
 
 TEST(AstroTimeZoneRule, FixedDateAndFractionalSeconds)
 {
-    _SYSTEMTIME rule{};
+    _SYSTEMTIME rule = Rule(4, 3, 6, 3);
     rule.wYear = 1990;
-    rule.wMonth = 4;
-    rule.wDay = 6;
-    rule.wDayOfWeek = 3;
-    rule.wHour = 3;
     rule.wMinute = 15;
     rule.wSecond = 30;
     rule.wMilliseconds = 500;
     AstroTime time(rule, 2005);
     ExpectDate(time, 2005, 4, 6);
     ExpectClock(time, 3, 15, 30.5);
-    EXPECT_EQ(time.GetMode(), AstroTime::Clock24);
 }
 
 TEST(AstroTimeState, WritesOneLevelAndReadsItBack)
 {
-    CmdLineStateContainer writer;
     AstroTime time = At(3, 3, 1999, 17, 7, 9, AstroTime::Clock12);
     time.SetFromFloatHour(17.0 + 7.0 / 60.0 + 9.25 / 3600.0, false);
+    CmdLineStateContainer writer;
     writer << AstroKey("Time") << time;
-
-    std::string level;
-    ASSERT_TRUE(writer.GetCmdLine().GetValue("Time", level));
-    HostCmdLine fields(level);
-    std::string value;
-    ASSERT_TRUE(fields.GetValue("Year", value));
-    EXPECT_EQ(value, "1999");
-    ASSERT_TRUE(fields.GetValue("Month", value));
-    EXPECT_EQ(value, "3");
-    ASSERT_TRUE(fields.GetValue("Second", value));
-    EXPECT_NEAR(std::stod(value), 9.25, 1e-4);
-    ASSERT_TRUE(fields.GetValue("Mode", value));
-    EXPECT_EQ(value, "1");
+    EXPECT_EQ(writer.GetCmdLine().GetRawText(),
+              "Time=<Year=1999 Month=3 Day=3 Hour=17 Minute=7 Second=9.25 Mode=1>");
 
     CmdLineStateContainer reader(writer.GetCmdLine());
     AstroTime back;
     reader >> AstroKey("Time") >> back;
     ExpectDate(back, 1999, 3, 3);
-    EXPECT_EQ(back.GetHour(), 17u);
-    EXPECT_EQ(back.GetMinute(), 7u);
-    EXPECT_NEAR(back.GetSecond(), 9.25, 1e-4);
+    ExpectClock(back, 17, 7, 9.25);
     EXPECT_EQ(back.GetMode(), AstroTime::Clock12);
 }
 
-TEST(AstroTimeState, NegativeYearSurvives)
+TEST(AstroTimeState, NegativeYearSurvivesAndMissingLevelReadsAsZero)
 {
     CmdLineStateContainer writer;
-    writer << AstroKey("Time") << At(15, 3, -43, 12);
+    writer << AstroKey("Time") << At(15, 3, -43, 12, 0, 0, AstroTime::Clock12);
     CmdLineStateContainer reader(writer.GetCmdLine());
     AstroTime back;
     reader >> AstroKey("Time") >> back;
     ExpectDate(back, -43, 3, 15);
-}
-
-TEST(AstroTimeState, MissingLevelReadsAsZero)
-{
-    CmdLineStateContainer writer;
-    writer << AstroKey("Time") << At(3, 3, 1999, 17, 7, 9, AstroTime::Clock12);
-    CmdLineStateContainer reader(writer.GetCmdLine());
-    AstroTime back = At(3, 3, 1999, 17, 7, 9, AstroTime::Clock12);
     reader >> AstroKey("Elsewhere") >> back;
     ExpectDate(back, 0, 0, 0);
     ExpectClock(back, 0, 0, 0.0);

@@ -26,18 +26,10 @@ const TimeStep::TIME_UNITS kUnits[] = {TimeStep::YEARS, TimeStep::MONTHS,  TimeS
 
 } // namespace
 
-TEST(TimeStepCounts, FreshStepIsZeroInEveryUnit)
-{
-    TimeStep step;
-    for (TimeStep::TIME_UNITS unit : kUnits) {
-        EXPECT_EQ(step.GetStep(unit), 0);
-        EXPECT_EQ(step.GetStepAsString(unit), "0");
-    }
-}
-
-TEST(TimeStepCounts, OneUnitConstructorSetsOnlyThatUnit)
+TEST(TimeStepCounts, EachUnitHoldsItsOwnCount)
 {
     for (TimeStep::TIME_UNITS unit : kUnits) {
+        EXPECT_EQ(TimeStep().GetStepAsString(unit), "0");
         TimeStep step(unit, -4);
         for (TimeStep::TIME_UNITS other : kUnits) {
             EXPECT_EQ(step.GetStep(other), other == unit ? -4 : 0);
@@ -46,33 +38,19 @@ TEST(TimeStepCounts, OneUnitConstructorSetsOnlyThatUnit)
     }
 }
 
-TEST(TimeStepCounts, MixedCountsCopyAndZero)
+TEST(TimeStepCounts, CopyZeroAndUnitsOutsideTheSix)
 {
-    TimeStep step;
-    step.SetStep(TimeStep::YEARS, 1);
-    step.SetStep(TimeStep::DAYS, -3);
+    TimeStep step(TimeStep::DAYS, -3);
     step.SetStep(TimeStep::SECONDS, 90);
+    step.SetStep(static_cast<TimeStep::TIME_UNITS>(6), 7);
+    EXPECT_EQ(step.GetStep(static_cast<TimeStep::TIME_UNITS>(6)), 0);
     TimeStep copy;
     copy.Copy(step);
-    EXPECT_EQ(copy.GetStep(TimeStep::YEARS), 1);
-    EXPECT_EQ(copy.GetStep(TimeStep::MONTHS), 0);
     EXPECT_EQ(copy.GetStep(TimeStep::DAYS), -3);
     EXPECT_EQ(copy.GetStep(TimeStep::SECONDS), 90);
-    EXPECT_TRUE(copy == step);
-
     step.ZeroAllSteps();
     EXPECT_TRUE(step == TimeStep());
-    EXPECT_EQ(copy.GetStep(TimeStep::DAYS), -3);
-}
-
-TEST(TimeStepCounts, UnitsOutsideTheSixAreIgnored)
-{
-    TimeStep step(TimeStep::HOURS, 2);
-    step.SetStep(static_cast<TimeStep::TIME_UNITS>(6), 7);
-    step.SetStep(static_cast<TimeStep::TIME_UNITS>(-1), 7);
-    EXPECT_EQ(step.GetStep(static_cast<TimeStep::TIME_UNITS>(6)), 0);
-    EXPECT_EQ(step.GetStepAsString(static_cast<TimeStep::TIME_UNITS>(-1)), "0");
-    EXPECT_TRUE(step == TimeStep(TimeStep::HOURS, 2));
+    EXPECT_FALSE(copy == step);
 }
 
 TEST(TimeStepMoves, MonthsFollowTheCalendar)
@@ -141,16 +119,12 @@ TEST(TimeStepMoves, ResultHasWholeSecondsAndTheTwentyFourHourMode)
     EXPECT_EQ(moved.GetMinute(), 1u);
     EXPECT_DOUBLE_EQ(moved.GetSecond(), 40.0);
     EXPECT_EQ(moved.GetMode(), AstroTime::Clock24);
+    EXPECT_EQ(time.GetMinute(), 0u);
 
-    // The operators with assignment change the time itself; the free ones leave it alone.
-    AstroTime original = time;
     time += TimeStep(TimeStep::DAYS, 2);
     EXPECT_EQ(time.GetDay(), 3u);
     time -= TimeStep(TimeStep::DAYS, 2);
     EXPECT_EQ(time.GetDay(), 1u);
-    AstroTime unused = original + TimeStep(TimeStep::YEARS, 5);
-    EXPECT_EQ(unused.GetYear(), 2005);
-    EXPECT_EQ(original.GetYear(), 2000);
 }
 
 TEST(TimeStepMoves, ForwardThenBackReturnsForDaysAndSmallerUnits)
