@@ -134,7 +134,8 @@ bool ReadWholeFile(const std::string& path, std::string& text)
 // Replaces the file in one step, so a reader never sees half of it.
 bool WriteWholeFile(const std::string& path, const std::string& text)
 {
-    std::string temporary = path + ".tmp";
+    // A name of its own per process, so two programs saving at once do not mix their files.
+    std::string temporary = path + ".tmp" + std::to_string(::getpid());
     std::FILE* file = std::fopen(temporary.c_str(), "wb");
     if (file == nullptr) {
         return false;
