@@ -26,6 +26,13 @@ inline double RadiansToDegrees(double radians)
 // "nan" cannot make the conversion undefined.
 int TruncateToInt(double value);
 
+// value + 1 for the carry of a sexagesimal field, held at the top of int instead of overflowing
+// (a field that far up only comes from a value far outside any circle).
+inline int CarryInto(int value)
+{
+    return value < 2147483647 ? value + 1 : value;
+}
+
 // The value without its whole turns of `turn`: value - trunc(value / turn) * turn, but only
 // when its magnitude is above `turn`. The sign survives and +-turn itself stays as it is.
 double RemoveWholeTurns(double value, double turn);

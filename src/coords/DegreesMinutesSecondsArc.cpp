@@ -32,7 +32,7 @@ std::string Describe(int sign, int degrees, int minutes, double seconds, bool wi
 {
     if (minutes > 59) {
         minutes = 0;
-        ++degrees;
+        degrees = CarryInto(degrees);
     }
     char text[80];
     if (withSeconds) {
@@ -73,10 +73,10 @@ void DegreesMinutesSecondsArc::Init(double degrees)
     // Rounding in the subtractions above can leave a whole minute in the seconds.
     if (Seconds >= 60.0) {
         Seconds -= 60.0;
-        ++Minutes;
+        Minutes = CarryInto(Minutes);
         if (Minutes == 60) {
             Minutes = 0;
-            ++Degrees;
+            Degrees = CarryInto(Degrees);
         }
     }
     Sign = degrees >= 0.0 ? 1 : -1;
@@ -87,10 +87,10 @@ void DegreesMinutesSecondsArc::Roundoff()
     Seconds = std::trunc(Seconds + 0.5);
     if (Seconds == 60.0) {
         Seconds = 0.0;
-        ++Minutes;
+        Minutes = CarryInto(Minutes);
         if (Minutes == 60) {
             Minutes = 0;
-            ++Degrees;
+            Degrees = CarryInto(Degrees);
         }
     }
 }
@@ -109,14 +109,14 @@ std::string DegreesMinutesSecondsArc::GetDescription1() const
 {
     // Seconds that would print as 60.0 count as the next minute.
     if (Seconds >= 59.95) {
-        return Describe(Sign, Degrees, Minutes + 1, 0.0, true);
+        return Describe(Sign, Degrees, CarryInto(Minutes), 0.0, true);
     }
     return Describe(Sign, Degrees, Minutes, Seconds, true);
 }
 
 std::string DegreesMinutesSecondsArc::GetDescription2() const
 {
-    return Describe(Sign, Degrees, Seconds > 30.0 ? Minutes + 1 : Minutes, 0.0, false);
+    return Describe(Sign, Degrees, Seconds > 30.0 ? CarryInto(Minutes) : Minutes, 0.0, false);
 }
 
 bool DegreesMinutesSecondsArc::Set(StringParser& parser)

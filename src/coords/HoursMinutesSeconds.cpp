@@ -70,7 +70,7 @@ std::string Describe(int hours, int minutes, double seconds, bool withSeconds)
 {
     if (minutes > 59) {
         minutes = 0;
-        ++hours;
+        hours = CarryInto(hours);
     }
     if (hours > 23) {
         hours = 0;
@@ -90,14 +90,14 @@ std::string HoursMinutesSeconds::GetDescription1() const
 {
     // Seconds that would print as 60.0 count as the next minute.
     if (Seconds >= 59.95) {
-        return Describe(Hours, Minutes + 1, 0.0, true);
+        return Describe(Hours, CarryInto(Minutes), 0.0, true);
     }
     return Describe(Hours, Minutes, Seconds, true);
 }
 
 std::string HoursMinutesSeconds::GetDescription2() const
 {
-    return Describe(Hours, Seconds > 30.0 ? Minutes + 1 : Minutes, 0.0, false);
+    return Describe(Hours, Seconds > 30.0 ? CarryInto(Minutes) : Minutes, 0.0, false);
 }
 
 bool HoursMinutesSeconds::Set(StringParser& parser)
@@ -123,7 +123,24 @@ bool HoursMinutesSeconds::Set(StringParser& parser)
 
 StateContainer& HoursMinutesSeconds::operator<<(StateContainer& sc) const
 {
-    return sc << std::to_string(Hours) + " " + std::to_string(Minutes) + " " + StateText(Seconds);
+    // Six significant digits round seconds such as 59.9999997 to "60", which Set refuses.
+    // Such seconds go into the minute, whole minutes into the hour and whole days away, so
+    // that what is written reads back as the same angle. Ordinary values are written as
+    // they stand.
+    std::string seconds = StateText(Seconds);
+    long long minutes = Minutes;
+    long long hours = Hours;
+    double written = StateDouble(seconds);
+    if (written >= 60.0 || written <= -60.0) {
+        seconds = StateText(0.0);
+        minutes += written > 0.0 ? 1 : -1;
+    }
+    hours += minutes / 60;
+    minutes %= 60;
+    hours %= 24;
+    std::string value = std::to_string(hours);
+    value.append(" ").append(std::to_string(minutes)).append(" ").append(seconds);
+    return sc << value;
 }
 
 StateContainer& HoursMinutesSeconds::operator>>(StateContainer& sc)

@@ -168,3 +168,14 @@ TEST(DegreesMinutesSecondsArc, StreamsAsOneValueAndReadsBlanksOrCommas)
     commas >> AstroKey("Dec") >> arc;
     ExpectFields(arc, -1, 12, 30, 15.5);
 }
+
+TEST(DegreesMinutesSecondsArc, HugeValuesHoldTheFieldsWithoutOverflow)
+{
+    DegreesMinutesSecondsArc arc;
+    arc.Init(-1e300);
+    EXPECT_EQ(arc.GetSign(), -1);
+    EXPECT_EQ(arc.GetDegrees(), 2147483647);
+    arc.Roundoff();
+    EXPECT_EQ(arc.GetDegrees(), 2147483647);
+    EXPECT_FALSE(arc.GetDescription1().empty());
+}

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "catalogues/StringParser.h"
 #include "coords/AngleMath.h"
 #include "coords/DegreeAngle.h"
@@ -159,4 +162,44 @@ TEST(HoursMinutesSeconds, NegativeFieldsSurviveTheRoundTrip)
     EXPECT_EQ(time.GetHours(), -1);
     EXPECT_EQ(time.GetMinutes(), -30);
     EXPECT_NEAR(time.GetSeconds(), -12.5, 1e-9);
+}
+
+TEST(HoursMinutesSeconds, SecondsThatRoundToSixtyAreWrittenAsTheNextMinute)
+{
+    struct Case
+    {
+        HoursMinutesSeconds Time;
+        const char* Written;
+    };
+    const Case cases[] = {
+        {HoursMinutesSeconds(7, 59, 59.9999997), "RA=\"8 0 0\""},
+        {HoursMinutesSeconds(23, 59, 59.9999999), "RA=\"0 0 0\""},
+        {HoursMinutesSeconds(-2, -59, -59.9999999), "RA=\"-3 0 0\""},
+        {HoursMinutesSeconds(7, 75, 12.5), "RA=\"8 15 12.5\""},
+        {HoursMinutesSeconds(24, 0, 0.0), "RA=\"0 0 0\""},
+    };
+    for (const Case& c : cases) {
+        CmdLineStateContainer writer;
+        writer << AstroKey("RA") << c.Time;
+        EXPECT_EQ(writer.GetCmdLine().GetRawText(), c.Written);
+
+        // What is written reads back as the same angle, a whole day aside.
+        CmdLineStateContainer reader(writer.GetCmdLine());
+        HoursMinutesSeconds time;
+        reader >> AstroKey("RA") >> time;
+        double day = twoPi;
+        double difference = std::fmod(
+            std::fabs(time.GetRadianAngle().GetRadians() - c.Time.GetRadianAngle().GetRadians()),
+            day);
+        EXPECT_LT(std::min(difference, day - difference), 1e-9) << c.Written;
+    }
+}
+
+TEST(HoursMinutesSeconds, FieldsFarOutsideTheCircleDoNotOverflowTheCarry)
+{
+    HoursMinutesSeconds time(2147483647, 2147483647, 59.99);
+    // The carry stops at the top of int, then the usual wraps apply.
+    EXPECT_EQ(time.GetDescription1(), "00h 00m 00.0s");
+    time.Init(1e300, 0.0, 0.0);
+    EXPECT_EQ(time.GetHours(), 2147483647);
 }
