@@ -14,14 +14,6 @@ TEST(AngleMath, PiIsTheArcCosineOfMinusOne)
     EXPECT_NEAR(std::cos(pi), -1.0, 1e-15);
 }
 
-TEST(AngleMath, DegreesAndRadiansConvertBothWays)
-{
-    EXPECT_DOUBLE_EQ(DegreesToRadians(180.0), pi);
-    EXPECT_DOUBLE_EQ(DegreesToRadians(-90.0), -pi / 2);
-    EXPECT_DOUBLE_EQ(RadiansToDegrees(pi / 4), 45.0);
-    EXPECT_DOUBLE_EQ(RadiansToDegrees(DegreesToRadians(123.456)), 123.456);
-}
-
 TEST(AngleMath, WholeTurnsGoOnlyAboveOneTurnAndTheSignStays)
 {
     EXPECT_EQ(RemoveWholeTurns(360.0, 360.0), 360.0);

@@ -76,37 +76,28 @@ TEST(DegreeAngle, DumpWritesEightLittleEndianBytesAndLoadReadsThemBack)
         ASSERT_TRUE(file.IsOpen());
         EXPECT_TRUE(DegreeAngle(1.0).Dump(file));
         EXPECT_TRUE(DegreeAngle(-123.456).Dump(file));
+        DegreeAngle unnormalised;
+        unnormalised = 400.0;
+        EXPECT_TRUE(unnormalised.Dump(file));
     }
     std::vector<unsigned char> bytes = scratch.Bytes();
-    ASSERT_EQ(bytes.size(), 16u);
+    ASSERT_EQ(bytes.size(), 24u);
     // 1.0 is 0x3FF0000000000000, lowest byte first.
     std::vector<unsigned char> one(bytes.begin(), bytes.begin() + 8);
     EXPECT_EQ(one, (std::vector<unsigned char>{0, 0, 0, 0, 0, 0, 0xF0, 0x3F}));
 
     HostFile file(scratch.GetPath(), HostFile::ReadOnly);
-    DegreeAngle first, second, third(5.0);
+    DegreeAngle first, second, stored, third(5.0);
     EXPECT_TRUE(first.Load(file));
     EXPECT_TRUE(second.Load(file));
+    EXPECT_TRUE(stored.Load(file));
     EXPECT_EQ(first.GetDegrees(), 1.0);
     EXPECT_EQ(second.GetDegrees(), -123.456);
+    // Loading keeps a stored value as it is, without normalising.
+    EXPECT_EQ(stored.GetDegrees(), 400.0);
     // At the end of the file nothing is read and the angle keeps its value.
     EXPECT_FALSE(third.Load(file));
     EXPECT_EQ(third.GetDegrees(), 5.0);
-}
-
-TEST(DegreeAngle, LoadKeepsAStoredValueAsItIs)
-{
-    ScratchFile scratch;
-    {
-        HostFile file(scratch.GetPath(), HostFile::WriteNew);
-        DegreeAngle unnormalised;
-        unnormalised = 400.0;
-        ASSERT_TRUE(unnormalised.Dump(file));
-    }
-    HostFile file(scratch.GetPath(), HostFile::ReadOnly);
-    DegreeAngle angle;
-    ASSERT_TRUE(angle.Load(file));
-    EXPECT_EQ(angle.GetDegrees(), 400.0);
 }
 
 TEST(DegreeAngle, DumpReportsAShortWrite)
@@ -134,14 +125,11 @@ TEST(DegreeAngle, StreamsAsOneValueWithSixSignificantDigits)
     reader >> AstroKey("Angle") >> angle >> AstroKey("Nothing") >> missing;
     EXPECT_DOUBLE_EQ(angle.GetDegrees(), 123.457);
     EXPECT_EQ(missing.GetDegrees(), 0.0);
-}
 
-TEST(DegreeAngle, ReadsTextThatIsNoNumberAsZero)
-{
-    CmdLineStateContainer reader(HostCmdLine("Angle=west Other=725"));
-    DegreeAngle angle(1.0), other;
-    reader >> AstroKey("Angle") >> angle >> AstroKey("Other") >> other;
+    // Text that is no number reads as 0; a stored value comes back without normalising.
+    CmdLineStateContainer text(HostCmdLine("Angle=west Other=725"));
+    DegreeAngle other;
+    text >> AstroKey("Angle") >> angle >> AstroKey("Other") >> other;
     EXPECT_EQ(angle.GetDegrees(), 0.0);
-    // A stored value comes back as it was written, without normalising.
     EXPECT_EQ(other.GetDegrees(), 725.0);
 }

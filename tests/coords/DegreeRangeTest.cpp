@@ -60,19 +60,6 @@ TEST(DegreeRange, FromTwoEndsTakesThePlainMiddle)
     ExpectRange(DegreeRange(DegreeAngle(-10.0), DegreeAngle(10.0), 7), 0.0, 10.0);
 }
 
-TEST(DegreeRange, SetStoresAsItIsAndClearsTheFlags)
-{
-    DegreeRange range(true);
-    range.Set(DegreeAngle(20.0), DegreeAngle(5.0));
-    ExpectRange(range, 20.0, 5.0);
-
-    DegreeRange copy(true);
-    copy.Copy(range);
-    ExpectRange(copy, 20.0, 5.0);
-    copy.Copy(DegreeRange(false));
-    EXPECT_TRUE(copy.IsEmpty());
-}
-
 TEST(DegreeRange, DifferenceIsTheShorterWayRound)
 {
     auto difference = [](double a, double b) {

@@ -18,13 +18,6 @@ TEST(PolarCoord, BuildsFromTwoNormalisedAngles)
     EXPECT_EQ(PolarCoord().GetDec().GetDegrees(), 0.0);
 }
 
-TEST(PolarCoord, EqualOnlyWhenBothFieldsAre)
-{
-    EXPECT_TRUE(PolarCoord(10.0, 20.0) == PolarCoord(10.0, 20.0));
-    EXPECT_FALSE(PolarCoord(10.0, 20.0) == PolarCoord(10.0, 21.0));
-    EXPECT_FALSE(PolarCoord(10.0, 20.0) == PolarCoord(11.0, 20.0));
-}
-
 TEST(PolarCoord, DescriptionUsesTheDefaultNumberForm)
 {
     EXPECT_EQ(PolarCoord(10.5, -20.0).GetDescription(), "RA = 10.5 Dec = -20");
