@@ -60,13 +60,13 @@ SeriesPosition EarthSeries::Compute(double T)
 
     // The series is the Sun's longitude seen from the Earth; the half turn gives the Earth's.
     const double longitude =
-        360.0 * Frac(0.7859453 + m3 / TwoPi + ((6191.2 + 1.1 * T) * T + DL) / ArcsecondsPerTurn) +
+        360.0 * Frac(0.7859453 + m3 / TwoPi + ((6191.2 + 1.1 * T) * T + DL) / kArcsecondsPerTurn) +
         180.0;
     const double latitude = -DB / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 1.0001398 - 0.0000007 * T + DR * 1e-6;
     place.dL = 172.00 + 5.75 * OwnS[1];
     place.dB = 0.0;

@@ -46,12 +46,12 @@ SeriesPosition JupiterSeries::Compute(double T)
     DB += -0.1 * c;
 
     const double longitude =
-        360.0 * Frac(0.0388910 + m5 / TwoPi + ((5025.2 + 0.8 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.0388910 + m5 / TwoPi + ((5025.2 + 0.8 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (227.3 - 0.3 * T + DB) / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 5.208873 + 0.000041 * T + DR * 1e-5;
     place.dL = 14.50 + 1.41 * OwnC[1];
     place.dB = 0.33 * OwnS[1];

@@ -60,7 +60,7 @@ const LunarPosition& LunarSeries::Evaluate(double T)
 
 double LunarSeries::EarthRadiiFromParallaxSum(double parallaxSum)
 {
-    return kArcsecondsPerRadian / (parallaxSum * kParallaxScale);
+    return kArc / (parallaxSum * kParallaxScale);
 }
 
 double LunarSeries::DistanceFromParallaxSum(double parallaxSum)
@@ -89,7 +89,7 @@ void LunarSeries::FormLongPeriodicChanges(double T)
 void LunarSeries::FormMeanArguments(double T)
 {
     const double t2 = T * T;
-    const double arc = kArcsecondsPerRadian;
+    const double arc = kArc;
     l0 = TwoPi * Frac(0.60643382 + 1336.85522467 * T - 0.00000313 * t2) + dl0 / arc;
     l = TwoPi * Frac(0.37489701 + 1325.55240982 * T + 0.00002565 * t2) + dl / arc;
     ls = TwoPi * Frac(0.99312619 + 99.99735956 * T - 0.00000044 * t2) + dls / arc;
@@ -140,7 +140,7 @@ void LunarSeries::AddSolarRows(std::span<const LunarRow> rows)
 
 LunarPosition LunarSeries::Compute(double T)
 {
-    const double arc = kArcsecondsPerRadian;
+    const double arc = kArc;
     FormLongPeriodicChanges(T);
     dlam = 0.0;
     ds = 0.0;
@@ -181,7 +181,7 @@ LunarPosition LunarSeries::Compute(double T)
     const double latitude =
         (inclinationFactor * (18519.7 + gam1c) * std::sin(s) - 6.24 * std::sin(3.0 * s) + n) /
         3600.0;
-    place.Latitude = latitude * DegreesToRadians;
+    place.Latitude = latitude * kRadiansPerDegree;
     place.ParallaxSum = sinpi;
     place.Distance = DistanceFromParallaxSum(sinpi);
     return place;

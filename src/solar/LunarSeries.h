@@ -25,8 +25,8 @@ struct LunarPosition
 class LunarSeries
 {
 public:
-    // Arcseconds per radian, as the lunar theory takes it.
-    static constexpr double kArcsecondsPerRadian = 206264.81;
+    // Arcseconds per radian, as the lunar theory rounds it.
+    static constexpr double kArc = 206264.81;
     // The Earth's equatorial radius and the astronomical unit, kilometres.
     static constexpr double kEarthRadiusKm = 6378.14;
     static constexpr double kAstronomicalUnitKm = 149597870.0;

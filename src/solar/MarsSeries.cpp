@@ -49,12 +49,12 @@ SeriesPosition MarsSeries::Compute(double T)
     DL += 0.14 + 0.87 * T - 0.11 * T * T;
 
     const double longitude =
-        360.0 * Frac(0.9334591 + m4 / TwoPi + ((6615.5 + 1.1 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.9334591 + m4 / TwoPi + ((6615.5 + 1.1 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (596.32 + (-2.92 - 0.10 * T) * T + DB) / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 1.5303352 + 0.0000131 * T + DR * 1e-6;
     place.dL = 91.50 + 17.07 * OwnC[1] + 2.03 * OwnC[2];
     place.dB = 0.83 * OwnC[1] + 2.80 * OwnS[1];

@@ -47,7 +47,7 @@ SeriesPosition MercurySeries::Compute(double T)
     DL += 2.8 + 3.2 * T;
 
     const double longitude =
-        360.0 * Frac(0.2151379 + m1 / TwoPi + ((5601.7 + 1.1 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.2151379 + m1 / TwoPi + ((5601.7 + 1.1 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (-2522.15 + (-30.18 + 0.04 * T) * T + DB) / 3600.0;
 
     // The rates, from the own multiples: cos i M1 and sin i M1 are OwnC[i] and OwnS[i].
@@ -55,8 +55,8 @@ SeriesPosition MercurySeries::Compute(double T)
     const double s1 = OwnS[1], s2 = OwnS[2], s3 = OwnS[3], s4 = OwnS[4];
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 0.3952829 + 0.0000016 * T + DR * 1e-6;
     place.dL = 714.00 + 292.66 * c1 + 71.96 * c2 + 18.16 * c3 + 4.61 * c4 + 3.81 * s2 + 2.43 * s3 +
                1.08 * s4;

@@ -39,12 +39,12 @@ SeriesPosition NeptuneSeries::Compute(double T)
     AddBlock(kUranus, m7, T);
 
     const double longitude =
-        360.0 * Frac(0.1254046 + m8 / TwoPi + ((4982.8 - 21.3 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.1254046 + m8 / TwoPi + ((4982.8 - 21.3 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (54.77 + (0.26 + 0.06 * T) * T + DB) / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 30.072984 + (0.001234 + 0.000003 * T) * T + DR * 1e-5;
     place.dL = 1.04 + 0.02 * OwnC[1];
     place.dB = 0.03 * OwnS[1];

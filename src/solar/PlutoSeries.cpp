@@ -79,8 +79,8 @@ SeriesPosition PlutoSeries::Compute(double T)
     DB += -0.67 * c - 0.51 * s;
 
     double longitude =
-        360.0 * Frac(0.6232469 + m9 / TwoPi + DL / ArcsecondsPerTurn) * DegreesToRadians;
-    double latitude = (-3.909434 + DB / 3600.0) * DegreesToRadians;
+        360.0 * Frac(0.6232469 + m9 / TwoPi + DL / kArcsecondsPerTurn) * kRadiansPerDegree;
+    double latitude = (-3.909434 + DB / 3600.0) * kRadiansPerDegree;
     PrecessFrom1950(T, longitude, latitude);
 
     SeriesPosition place;

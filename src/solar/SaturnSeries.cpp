@@ -54,12 +54,12 @@ SeriesPosition SaturnSeries::Compute(double T)
     DB += -0.2 * c + 0.6 * s;
 
     const double longitude =
-        360.0 * Frac(0.2561136 + m6 / TwoPi + ((5018.6 + 1.9 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.2561136 + m6 / TwoPi + ((5018.6 + 1.9 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (175.1 - 10.2 * T + DB) / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 9.557584 - 0.000186 * T + DR * 1e-5;
     place.dL = 5.84 + 0.65 * OwnC[1];
     place.dB = 0.24 * OwnC[1];

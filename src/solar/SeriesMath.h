@@ -10,12 +10,12 @@ inline constexpr double Pi = 3.14159265358979323846;
 inline constexpr double TwoPi = 2.0 * Pi;
 
 // Degrees to radians and back, as multiplications by the full turn over 360.
-inline constexpr double DegreesToRadians = TwoPi / 360.0;
-inline constexpr double RadiansToDegrees = 360.0 / TwoPi;
+inline constexpr double kRadiansPerDegree = TwoPi / 360.0;
+inline constexpr double kDegreesPerRadian = 360.0 / TwoPi;
 
 // Arcseconds in one radian, and in a full turn.
-inline constexpr double ArcsecondsPerRadian = 206264.8062;
-inline constexpr double ArcsecondsPerTurn = 1296000.0;
+inline constexpr double kArcsecondsPerRadian = 206264.8062;
+inline constexpr double kArcsecondsPerTurn = 1296000.0;
 
 // The fractional part of x in [0, 1): x less its integer part toward zero, raised by one
 // when that is negative. A NaN stays NaN.

@@ -47,12 +47,12 @@ SeriesPosition UranusSeries::Compute(double T)
     AddRows(kJupiterSaturn, T);
 
     const double longitude =
-        360.0 * Frac(0.4734843 + m7 / TwoPi + ((5082.3 + 34.2 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.4734843 + m7 / TwoPi + ((5082.3 + 34.2 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (-130.61 + (-0.54 + 0.04 * T) * T + DB) / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 19.211991 + (-0.000333 - 0.000005 * T) * T + DR * 1e-5;
     place.dL = 2.05 + 0.19 * OwnC[1];
     place.dB = -0.03 * OwnS[1];

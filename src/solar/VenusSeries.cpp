@@ -51,12 +51,12 @@ SeriesPosition VenusSeries::Compute(double T)
     DL += 1.9 + 1.8 * T;
 
     const double longitude =
-        360.0 * Frac(0.3654783 + m2 / TwoPi + ((5071.2 + 1.1 * T) * T + DL) / ArcsecondsPerTurn);
+        360.0 * Frac(0.3654783 + m2 / TwoPi + ((5071.2 + 1.1 * T) * T + DL) / kArcsecondsPerTurn);
     const double latitude = (-67.70 + (0.04 + 0.01 * T) * T + DB) / 3600.0;
 
     SeriesPosition place;
-    place.L = NormalizeRadians(longitude * DegreesToRadians);
-    place.B = NormalizeRadians(latitude * DegreesToRadians);
+    place.L = NormalizeRadians(longitude * kRadiansPerDegree);
+    place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 0.7233482 - 0.0000002 * T + DR * 1e-6;
     place.dL = 280.00 + 3.79 * OwnC[1];
     place.dB = 9.54 * OwnC[1] - 13.57 * OwnS[1];

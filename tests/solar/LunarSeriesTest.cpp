@@ -32,8 +32,8 @@ TEST(LunarSeries, GivesThePublishedPlaceAtTheEpoch)
 {
     LunarSeries moon;
     const LunarPosition& place = moon.Evaluate(0.0);
-    EXPECT_LE(AngleApart(place.Longitude * RadiansToDegrees, 223.3189), 0.00005);
-    EXPECT_NEAR(place.Latitude * RadiansToDegrees, 5.1709, 0.00005);
+    EXPECT_LE(AngleApart(place.Longitude * kDegreesPerRadian, 223.3189), 0.00005);
+    EXPECT_NEAR(place.Latitude * kDegreesPerRadian, 5.1709, 0.00005);
     EXPECT_NEAR(place.Distance, 0.00269013, 0.000000005);
     EXPECT_NEAR(place.Distance * LunarSeries::kAstronomicalUnitKm, 402438.0, 0.5);
 }
@@ -43,8 +43,8 @@ TEST(LunarSeries, GivesThePublishedPlaceFiveCenturiesOn)
     // The longitude, 352.0796503, lies just inside the rounding edge of the printed 352.0797.
     LunarSeries moon;
     const LunarPosition& place = moon.Evaluate(0.2);
-    EXPECT_LE(AngleApart(place.Longitude * RadiansToDegrees, 352.0797), 0.00005);
-    EXPECT_NEAR(place.Latitude * RadiansToDegrees, -5.0741, 0.00005);
+    EXPECT_LE(AngleApart(place.Longitude * kDegreesPerRadian, 352.0797), 0.00005);
+    EXPECT_NEAR(place.Latitude * kDegreesPerRadian, -5.0741, 0.00005);
     EXPECT_NEAR(place.Distance, 0.00270301, 0.000000005);
 }
 
@@ -100,10 +100,10 @@ TEST(LunarSeries, StaysOnTheMoonsOrbitOverManyMonths)
             ASSERT_GE(place.Longitude, 0.0) << T;
             ASSERT_LT(place.Longitude, TwoPi) << T;
             const double perDay =
-                std::remainder(place.Longitude - previous, TwoPi) * RadiansToDegrees / 0.4;
+                std::remainder(place.Longitude - previous, TwoPi) * kDegreesPerRadian / 0.4;
             ASSERT_GT(perDay, 11.0) << T;
             ASSERT_LT(perDay, 16.0) << T;
-            ASSERT_LE(std::fabs(place.Latitude * RadiansToDegrees), 5.33) << T;
+            ASSERT_LE(std::fabs(place.Latitude * kDegreesPerRadian), 5.33) << T;
             const double km = place.Distance * LunarSeries::kAstronomicalUnitKm;
             ASSERT_GT(km, 356000.0) << T;
             ASSERT_LT(km, 407000.0) << T;
@@ -119,5 +119,5 @@ TEST(LunarSeries, SiderealMonthBringsTheLongitudeRoundOnAverage)
     LunarSeries moon;
     const double start = moon.Evaluate(0.0).Longitude;
     const double later = moon.Evaluate(100.0 * 27.321662 / 36525.0).Longitude;
-    EXPECT_LT(AngleApart(later * RadiansToDegrees, start * RadiansToDegrees), 7.5);
+    EXPECT_LT(AngleApart(later * kDegreesPerRadian, start * kDegreesPerRadian), 7.5);
 }

@@ -102,9 +102,9 @@ TEST(PlanetTheories, GiveThePublishedPlacesToTheirDigits)
         SCOPED_TRACE(std::string(kNames[check.Which]) + " at T = " + std::to_string(check.T));
         auto series = MakeSeries(check.Which);
         const SeriesPosition& place = series->Evaluate(check.T);
-        EXPECT_LE(AngleApart(place.L * RadiansToDegrees, check.L), kHalfDegreeDigit)
-            << place.L * RadiansToDegrees;
-        EXPECT_NEAR(place.B * RadiansToDegrees, check.B, kHalfDegreeDigit);
+        EXPECT_LE(AngleApart(place.L * kDegreesPerRadian, check.L), kHalfDegreeDigit)
+            << place.L * kDegreesPerRadian;
+        EXPECT_NEAR(place.B * kDegreesPerRadian, check.B, kHalfDegreeDigit);
         EXPECT_NEAR(place.R, check.R, kHalfAuDigit);
     }
 }
@@ -151,7 +151,7 @@ TEST(PlanetTheories, StayOnTheirOrbitsOverCenturies)
             const SeriesPosition& place = series->Evaluate(T);
             ASSERT_GE(place.L, 0.0) << kNames[orbit.Which] << " " << T;
             ASSERT_LE(place.L, TwoPi) << kNames[orbit.Which] << " " << T;
-            ASSERT_LE(std::fabs(place.B * RadiansToDegrees),
+            ASSERT_LE(std::fabs(place.B * kDegreesPerRadian),
                       orbit.Inclination + 0.015 * std::fabs(T))
                 << kNames[orbit.Which] << " " << T;
             ASSERT_GE(place.R, orbit.Perihelion * 0.995) << kNames[orbit.Which] << " " << T;

@@ -9,8 +9,8 @@ TEST(SeriesMath, TwoPiIsTwiceTheArcCosineOfMinusOne)
 {
     EXPECT_EQ(Pi, std::acos(-1.0));
     EXPECT_EQ(TwoPi, 2.0 * std::acos(-1.0));
-    EXPECT_DOUBLE_EQ(180.0 * DegreesToRadians, Pi);
-    EXPECT_DOUBLE_EQ(Pi * RadiansToDegrees, 180.0);
+    EXPECT_DOUBLE_EQ(180.0 * kRadiansPerDegree, Pi);
+    EXPECT_DOUBLE_EQ(Pi * kDegreesPerRadian, 180.0);
 }
 
 TEST(SeriesMath, FracOfPositiveArgumentsDropsTheWholePart)
