@@ -37,20 +37,49 @@ public:
     LorvString(std::string&& text) : std::string(std::move(text)) {}
     LorvString(const std::string& text, size_type pos, size_type count = npos)
         : std::string(text, pos, count)
-    {
-    }
+    {}
     LorvString(const char* text, size_type count) : std::string(text, count) {}
 
     int Compare(std::string_view other) const { return CompareNoCase(*this, other); }
 };
 
-inline bool operator==(const LorvString& a, const LorvString& b) { return EqualNoCase(a, b); }
-inline bool operator==(const LorvString& a, const std::string& b) { return EqualNoCase(a, b); }
-inline bool operator==(const LorvString& a, const char* b) { return EqualNoCase(a, b ? b : ""); }
-inline bool operator<(const LorvString& a, const LorvString& b) { return a.Compare(b) < 0; }
-inline bool operator<(const LorvString& a, const std::string& b) { return a.Compare(b) < 0; }
-inline bool operator<(const std::string& a, const LorvString& b) { return b.Compare(a) > 0; }
-inline bool operator<(const LorvString& a, const char* b) { return a.Compare(b ? b : "") < 0; }
-inline bool operator>(const LorvString& a, const LorvString& b) { return b < a; }
-inline bool operator<=(const LorvString& a, const LorvString& b) { return !(b < a); }
-inline bool operator>=(const LorvString& a, const LorvString& b) { return !(a < b); }
+inline bool operator==(const LorvString& a, const LorvString& b)
+{
+    return EqualNoCase(a, b);
+}
+inline bool operator==(const LorvString& a, const std::string& b)
+{
+    return EqualNoCase(a, b);
+}
+inline bool operator==(const LorvString& a, const char* b)
+{
+    return EqualNoCase(a, b ? b : "");
+}
+inline bool operator<(const LorvString& a, const LorvString& b)
+{
+    return a.Compare(b) < 0;
+}
+inline bool operator<(const LorvString& a, const std::string& b)
+{
+    return a.Compare(b) < 0;
+}
+inline bool operator<(const std::string& a, const LorvString& b)
+{
+    return b.Compare(a) > 0;
+}
+inline bool operator<(const LorvString& a, const char* b)
+{
+    return a.Compare(b ? b : "") < 0;
+}
+inline bool operator>(const LorvString& a, const LorvString& b)
+{
+    return b < a;
+}
+inline bool operator<=(const LorvString& a, const LorvString& b)
+{
+    return !(b < a);
+}
+inline bool operator>=(const LorvString& a, const LorvString& b)
+{
+    return !(a < b);
+}

@@ -2,8 +2,7 @@
 
 StringParser::StringParser(const std::string& text, const char* separators, bool strip)
     : Text(text), Separators(separators), bStrip(strip)
-{
-}
+{}
 
 bool StringParser::IsSeparator(char c) const
 {

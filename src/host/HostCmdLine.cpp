@@ -86,7 +86,8 @@ std::string Quote(const std::string& value)
 
 } // namespace
 
-HostCmdLine::HostCmdLine(const std::string& text) : Text(text) {}
+HostCmdLine::HostCmdLine(const std::string& text) : Text(text)
+{}
 
 std::vector<HostCmdLine::Parameter> HostCmdLine::GetParameters() const
 {

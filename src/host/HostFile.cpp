@@ -72,7 +72,8 @@ void HostFile::ResolvePath(std::string& path, bool logical, bool /*mustExist*/)
         static const char* const prefixes[] = {"cd:\\win32\\", "cd:/win32/", "ed:\\", "ed:/"};
         for (const char* prefix : prefixes) {
             std::string_view p(prefix);
-            if (rest.size() >= p.size() && EqualNoCase(std::string_view(rest).substr(0, p.size()), p)) {
+            if (rest.size() >= p.size() &&
+                EqualNoCase(std::string_view(rest).substr(0, p.size()), p)) {
                 base = DataDirectory();
                 rest = rest.substr(p.size());
                 break;

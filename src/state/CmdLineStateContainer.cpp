@@ -10,8 +10,7 @@ std::string RemoveSpaces(const std::string& key)
 }
 
 CmdLineStateContainer::CmdLineStateContainer(const HostCmdLine& commandLine) : CmdLine(commandLine)
-{
-}
+{}
 
 void CmdLineStateContainer::Push()
 {

@@ -82,8 +82,8 @@ TEST(CmdLineStateContainer, TextsWithBlanksAndBracketsRoundTrip)
     CmdLineStateContainer reader(writer.GetCmdLine());
     std::string arc, odd, empty = "x";
     bool flag = false;
-    reader >> AstroKey("Root") >> GoToLevel >> AstroKey("Arc") >> arc >> AstroKey("Odd") >> odd
-           >> AstroKey("Empty") >> empty >> AstroKey("Flag") >> flag >> EndLevel;
+    reader >> AstroKey("Root") >> GoToLevel >> AstroKey("Arc") >> arc >> AstroKey("Odd") >> odd >>
+        AstroKey("Empty") >> empty >> AstroKey("Flag") >> flag >> EndLevel;
     EXPECT_EQ(arc, "+ 12 30 15.5");
     EXPECT_EQ(odd, "a<b> \"c\\d\"");
     EXPECT_EQ(empty, "");
