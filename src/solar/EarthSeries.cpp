@@ -68,6 +68,9 @@ SeriesPosition EarthSeries::Compute(double T)
     place.L = NormalizeRadians(longitude * kRadiansPerDegree);
     place.B = NormalizeRadians(latitude * kRadiansPerDegree);
     place.R = 1.0001398 - 0.0000007 * T + DR * 1e-6;
+    // The rates take the sine of the anomaly in longitude and its cosine in distance, the other
+    // way round from the derivative of the series; the apparent places of the reduction are
+    // fixed to these, so they stay as they are.
     place.dL = 172.00 + 5.75 * OwnS[1];
     place.dB = 0.0;
     place.dR = 2.87 * OwnC[1];

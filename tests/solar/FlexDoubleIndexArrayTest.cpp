@@ -31,10 +31,3 @@ TEST(FlexDoubleIndexArray, CellsAreIndependent)
     EXPECT_TRUE(view.Contains(-2));
     EXPECT_FALSE(view.Contains(3));
 }
-
-TEST(FlexDoubleIndexArray, StartsAtZero)
-{
-    FlexDoubleIndexArray table(-1, 0, -1, 0);
-    EXPECT_EQ(table[-1][-1], 0.0);
-    EXPECT_EQ(table[0][0], 0.0);
-}
