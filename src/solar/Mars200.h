@@ -1,0 +1,23 @@
+#pragma once
+// Mars, from its analytic theory, with its phase law of magnitude.
+#include "solar/MarsSeries.h"
+#include "solar/Planet.h"
+
+class Mars200 : public Planet
+{
+public:
+    Mars200();
+
+    double GetBaseMagnitude() override { return -1.52; }
+    // The base magnitude brightened or dimmed by the phase angle seen from the observer.
+    double GetPhaseMagnitude(SolarSystemObject& observer) override;
+    // The body's name from the host's string table, fetched at construction.
+    std::string GetName() override { return name; }
+
+protected:
+    bool Compute() override;
+
+private:
+    const std::string name;
+    MarsSeries Series;
+};
