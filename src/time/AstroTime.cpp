@@ -10,6 +10,7 @@
 #include "catalogues/StringParser.h"
 #include "state/StateContainer.h"
 #include "time/TimeStep.h"
+#include "time/TimeZone.h"
 
 namespace {
 
@@ -211,6 +212,28 @@ AstroTime& AstroTime::operator-=(const TimeStep& step)
 {
     Step(step, -1);
     return *this;
+}
+
+AstroTime AstroTime::operator+(const TimeZone& zone) const
+{
+    AstroTime universal;
+    universal.Copy(*this);
+    universal += TimeStep(TimeStep::MINUTES, static_cast<int>(zone.GetBiasForLocalTime(*this)));
+    return universal;
+}
+
+// The daylight saving rule speaks of local time, so the moment first becomes local standard
+// time, and the rule is asked about that.
+AstroTime AstroTime::operator-(const TimeZone& zone) const
+{
+    const _TIME_ZONE_INFORMATION& info = zone.GetZoneInformation();
+    AstroTime local;
+    local.Copy(*this);
+    local -= TimeStep(TimeStep::MINUTES, static_cast<int>(info.Bias));
+    if (zone.IsInDaylightSavingsRange(local, true)) {
+        local -= TimeStep(TimeStep::MINUTES, static_cast<int>(info.DaylightBias));
+    }
+    return local;
 }
 
 // Years and months go through the calendar fields so that a month is a calendar month; a day

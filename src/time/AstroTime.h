@@ -17,6 +17,7 @@
 class StateContainer;
 class StringParser;
 class TimeStep;
+class TimeZone;
 
 class AstroTime
 {
@@ -57,6 +58,13 @@ public:
     // result has whole seconds and the 24-hour mode.
     AstroTime& operator+=(const TimeStep& step);
     AstroTime& operator-=(const TimeStep& step);
+
+    // This moment taken as local time in the zone, in Universal Time: moved by the zone's
+    // bias for that local time.
+    AstroTime operator+(const TimeZone& zone) const;
+    // This moment in Universal Time as local time in the zone: moved back by the standard
+    // bias, then, in daylight saving, by the daylight bias too. Whole seconds, 24-hour mode.
+    AstroTime operator-(const TimeZone& zone) const;
 
     double GetMJD() const;
     // Julian centuries since 2000 January 1.5 (MJD 51544.5); cached, since every body of the
