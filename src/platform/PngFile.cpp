@@ -37,6 +37,13 @@ void ReadFromMemory(png_structp png, png_bytep out, png_size_t count)
 void QuietWarning(png_structp, png_const_charp)
 {}
 
+// libpng's own error handler prints to stderr; the message belongs on dbstream.
+[[noreturn]] void ReportError(png_structp png, png_const_charp message)
+{
+    dbstream << "PNG: " << message << dbendl;
+    png_longjmp(png, 1);
+}
+
 // What the header says, after the transforms that bring every picture to 8 bits a sample.
 struct HeaderInfo
 {
@@ -123,7 +130,8 @@ bool ReadPng(const BYTE* data, std::size_t size, PngImage& image)
     if (!data || size < 8 || png_sig_cmp(data, 0, 8) != 0) {
         return false;
     }
-    png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, QuietWarning);
+    png_structp png =
+        png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, ReportError, QuietWarning);
     png_infop info = png ? png_create_info_struct(png) : nullptr;
     if (!info) {
         png_destroy_read_struct(&png, nullptr, nullptr);
@@ -198,7 +206,7 @@ bool WritePngFile(const std::string& path, const PngImage& image)
         return false;
     }
     png_structp png =
-        png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, QuietWarning);
+        png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, ReportError, QuietWarning);
     png_infop info = png ? png_create_info_struct(png) : nullptr;
     bool ok = info && WriteAll(png, info, file, &image, rows.data(), palette.data());
     png_destroy_write_struct(&png, &info);

@@ -7,7 +7,7 @@ class TResId
 public:
     TResId(const char* name) : Name(name ? name : "") {}
     TResId(const std::string& name) : Name(name) {}
-    TResId(int id) : Name("#" + std::to_string(id)), nId(id), bNumber(true) {}
+    TResId(int id) : Name(std::to_string(id)), nId(id), bNumber(true) { Name.insert(0, 1, '#'); }
 
     bool IsString() const { return !bNumber; }
     int GetInt() const { return nId; }
