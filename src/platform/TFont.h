@@ -2,6 +2,8 @@
 // A font as the component describes it: face name, height (negative: character height,
 // positive: cell height, in logical units), width, weight, italic and character set.
 // The face is looked up when the font is first used; copies share it and its glyph cache.
+// Escapement, orientation, underline and strike-out are kept in the description but text is
+// always drawn level and plain.
 #include <memory>
 #include <string>
 
