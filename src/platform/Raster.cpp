@@ -18,11 +18,56 @@ std::uint32_t LoadRgb(const BYTE* p)
     return v & 0x00FFFFFF;
 }
 
+constexpr int kMaxPenWidth = 1 << 15;
+
+// Products of two coordinate differences need more than 64 bits.
+__extension__ typedef __int128 Wide;
+
 // The step along the minor axis at step i of n for a total minor distance of d >= 0: the
 // nearest whole pixel, halves rounded away from the start.
 std::int64_t MinorOffset(std::int64_t i, std::int64_t d, std::int64_t n)
 {
-    return (2 * i * d + n) / (2 * n);
+    return std::int64_t((Wide(2) * i * d + n) / (Wide(2) * n));
+}
+
+// Calls f(x, y) for each pixel of the line from a to b whose coordinate along the longer axis
+// lies inside `area`; only those steps are visited, however long the line.
+template <typename F>
+void WalkLine(const TPoint& a, const TPoint& b, bool withLast, const TRect& area, F f)
+{
+    std::int64_t dx = std::int64_t(b.x) - a.x, dy = std::int64_t(b.y) - a.y;
+    std::int64_t adx = std::llabs(dx), ady = std::llabs(dy);
+    std::int64_t n = std::max(adx, ady);
+    if (n == 0) {
+        if (withLast) {
+            f(a.x, a.y);
+        }
+        return;
+    }
+    bool xMajor = adx >= ady;
+    int majorStep = (xMajor ? dx : dy) > 0 ? 1 : -1;
+    int minorStep = (xMajor ? dy : dx) >= 0 ? 1 : -1;
+    std::int64_t minorDistance = xMajor ? ady : adx;
+    std::int64_t majorStart = xMajor ? a.x : a.y;
+    std::int64_t low = xMajor ? area.left : area.top;
+    std::int64_t high = xMajor ? area.right : area.bottom;
+    std::int64_t first = 0, last = withLast ? n : n - 1;
+    if (majorStep > 0) {
+        first = std::max(first, low - majorStart);
+        last = std::min(last, high - 1 - majorStart);
+    } else {
+        first = std::max(first, majorStart - (high - 1));
+        last = std::min(last, majorStart - low);
+    }
+    for (std::int64_t i = first; i <= last; ++i) {
+        std::int64_t minor = minorStep * MinorOffset(i, minorDistance, n);
+        std::int64_t major = majorStart + majorStep * i;
+        if (xMajor) {
+            f(int(major), int(a.y + minor));
+        } else {
+            f(int(a.x + minor), int(major));
+        }
+    }
 }
 
 } // namespace
@@ -90,41 +135,7 @@ void Raster::Invert(const TRect& rect)
 
 void Raster::Line(const TPoint& a, const TPoint& b, std::uint32_t value, bool withLast)
 {
-    std::int64_t dx = std::int64_t(b.x) - a.x, dy = std::int64_t(b.y) - a.y;
-    std::int64_t adx = std::llabs(dx), ady = std::llabs(dy);
-    std::int64_t n = std::max(adx, ady);
-    if (n == 0) {
-        if (withLast) {
-            Pixel(a.x, a.y, value);
-        }
-        return;
-    }
-    bool xMajor = adx >= ady;
-    int majorStep = (xMajor ? dx : dy) > 0 ? 1 : -1;
-    int minorStep = (xMajor ? dy : dx) >= 0 ? 1 : -1;
-    std::int64_t minorDistance = xMajor ? ady : adx;
-    std::int64_t majorStart = xMajor ? a.x : a.y;
-    std::int64_t clipLow = xMajor ? Clip.left : Clip.top;
-    std::int64_t clipHigh = xMajor ? Clip.right : Clip.bottom;
-
-    // Only the steps whose major coordinate lies inside the clip are visited.
-    std::int64_t first = 0, last = withLast ? n : n - 1;
-    if (majorStep > 0) {
-        first = std::max(first, clipLow - majorStart);
-        last = std::min(last, clipHigh - 1 - majorStart);
-    } else {
-        first = std::max(first, majorStart - (clipHigh - 1));
-        last = std::min(last, majorStart - clipLow);
-    }
-    for (std::int64_t i = first; i <= last; ++i) {
-        std::int64_t minor = minorStep * MinorOffset(i, minorDistance, n);
-        std::int64_t major = majorStart + majorStep * i;
-        if (xMajor) {
-            Pixel(int(major), int(a.y + minor), value);
-        } else {
-            Pixel(int(a.x + minor), int(major), value);
-        }
-    }
+    WalkLine(a, b, withLast, Clip, [&](int x, int y) { Pixel(x, y, value); });
 }
 
 void Raster::WideLine(const TPoint& a, const TPoint& b, std::uint32_t value, int width,
@@ -134,18 +145,12 @@ void Raster::WideLine(const TPoint& a, const TPoint& b, std::uint32_t value, int
         Line(a, b, value, withLast);
         return;
     }
+    // A pen wider than any surface draws the same as one as wide as the surface.
+    width = std::min(width, kMaxPenWidth);
     int before = width / 2;
-    std::int64_t dx = std::int64_t(b.x) - a.x, dy = std::int64_t(b.y) - a.y;
-    std::int64_t n = std::max(std::llabs(dx), std::llabs(dy));
-    std::int64_t last = withLast ? n : n - 1;
-    if (n == 0) {
-        last = withLast ? 0 : -1;
-    }
-    for (std::int64_t i = 0; i <= last; ++i) {
-        int x = n == 0 ? a.x : int(a.x + (dx >= 0 ? 1 : -1) * MinorOffset(i, std::llabs(dx), n));
-        int y = n == 0 ? a.y : int(a.y + (dy >= 0 ? 1 : -1) * MinorOffset(i, std::llabs(dy), n));
+    WalkLine(a, b, withLast, Clip.InflatedBy(width, width), [&](int x, int y) {
         Fill(TRect(x - before, y - before, x - before + width, y - before + width), value);
-    }
+    });
 }
 
 void Raster::Mask(const Glyph& glyph, int x, int y, std::uint32_t value, COLORREF rgb, bool blend)

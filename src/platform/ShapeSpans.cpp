@@ -6,6 +6,9 @@
 
 namespace {
 
+// Products of four coordinate differences need more than 64 bits.
+__extension__ typedef __int128 Wide;
+
 // Floor and ceiling of a / 2 for any sign.
 std::int64_t FloorHalf(std::int64_t a)
 {
@@ -19,16 +22,25 @@ std::int64_t CeilHalf(std::int64_t a)
 
 } // namespace
 
-ShapeSpans::ShapeSpans(Kind kind, const TRect& box, int cornerWidth, int cornerHeight)
-    : ShapeKind(kind), Box(box.Normalized()), nCornerWidth(cornerWidth), nCornerHeight(cornerHeight)
+ShapeSpans::ShapeSpans(Kind kind, const TRect& box, int cornerWidth, int cornerHeight,
+                       const TRect& visible)
+    : ShapeKind(kind), Box(box.Normalized()), nCornerWidth(cornerWidth),
+      nCornerHeight(cornerHeight), Visible(visible)
 {
     if (Box.IsEmpty()) {
         Box = TRect();
         return;
     }
-    aRows.resize(std::size_t(Box.Height()));
-    for (int y = Box.top; y < Box.bottom; ++y) {
-        Run& run = aRows[std::size_t(y - Box.top)];
+    // The visible rows and one on each side, whose runs decide the edge of the visible ones.
+    std::int64_t first = std::max<std::int64_t>(Box.top, std::int64_t(Visible.top) - 1);
+    std::int64_t last = std::min<std::int64_t>(Box.bottom, std::int64_t(Visible.bottom) + 1);
+    if (first >= last) {
+        return;
+    }
+    nFirstRow = int(first);
+    aRows.resize(std::size_t(last - first));
+    for (int y = nFirstRow; y < int(last); ++y) {
+        Run& run = aRows[std::size_t(y - nFirstRow)];
         switch (ShapeKind) {
         case Kind::Rectangle:
             run = Run{Box.left, Box.right};
@@ -54,53 +66,56 @@ ShapeSpans::ShapeSpans(Kind kind, const TRect& box, int cornerWidth, int cornerH
     }
 }
 
-ShapeSpans ShapeSpans::Rectangle(const TRect& box)
+ShapeSpans ShapeSpans::Rectangle(const TRect& box, const TRect& visible)
 {
-    return ShapeSpans(Kind::Rectangle, box, 0, 0);
+    return ShapeSpans(Kind::Rectangle, box, 0, 0, visible);
 }
 
-ShapeSpans ShapeSpans::Ellipse(const TRect& box)
+ShapeSpans ShapeSpans::Ellipse(const TRect& box, const TRect& visible)
 {
-    return ShapeSpans(Kind::Ellipse, box, 0, 0);
+    return ShapeSpans(Kind::Ellipse, box, 0, 0, visible);
 }
 
-ShapeSpans ShapeSpans::RoundRect(const TRect& box, int cornerWidth, int cornerHeight)
+ShapeSpans ShapeSpans::RoundRect(const TRect& box, int cornerWidth, int cornerHeight,
+                                 const TRect& visible)
 {
     TRect b = box.Normalized();
-    int cw = std::min(std::abs(cornerWidth), b.Width());
-    int ch = std::min(std::abs(cornerHeight), b.Height());
+    int cw = int(std::min<std::int64_t>(std::llabs(cornerWidth), b.Width()));
+    int ch = int(std::min<std::int64_t>(std::llabs(cornerHeight), b.Height()));
     if (cw == 0 || ch == 0) {
-        return Rectangle(b);
+        return Rectangle(b, visible);
     }
     if (cw == b.Width() && ch == b.Height()) {
-        return Ellipse(b);
+        return Ellipse(b, visible);
     }
-    return ShapeSpans(Kind::RoundRect, b, cw, ch);
+    return ShapeSpans(Kind::RoundRect, b, cw, ch, visible);
 }
 
 ShapeSpans::Run ShapeSpans::At(int y) const
 {
-    if (y < Box.top || y >= Box.bottom) {
+    std::int64_t k = std::int64_t(y) - nFirstRow;
+    if (k < 0 || k >= std::int64_t(aRows.size())) {
         return Run{};
     }
-    return aRows[std::size_t(y - Box.top)];
+    return aRows[std::size_t(k)];
 }
 
 ShapeSpans ShapeSpans::Inset(int d) const
 {
     TRect inner(Box.left + d, Box.top + d, Box.right - d, Box.bottom - d);
     if (inner.IsEmpty()) {
-        return Rectangle(TRect());
+        return Rectangle(TRect(), Visible);
     }
     switch (ShapeKind) {
     case Kind::Rectangle:
-        return Rectangle(inner);
+        return Rectangle(inner, Visible);
     case Kind::Ellipse:
-        return Ellipse(inner);
+        return Ellipse(inner, Visible);
     case Kind::RoundRect:
         break;
     }
-    return RoundRect(inner, std::max(nCornerWidth - 2 * d, 0), std::max(nCornerHeight - 2 * d, 0));
+    return RoundRect(inner, std::max(nCornerWidth - 2 * d, 0), std::max(nCornerHeight - 2 * d, 0),
+                     Visible);
 }
 
 // The pixels x of row y whose centre (x + 0.5, y + 0.5) satisfies, with the box's centre c and
@@ -108,17 +123,18 @@ ShapeSpans ShapeSpans::Inset(int d) const
 // coordinates every quantity is an integer, so the test is exact.
 ShapeSpans::Run ShapeSpans::EllipseRun(const TRect& box, int y)
 {
-    std::int64_t w = box.Width(), h = box.Height();
+    std::int64_t w = std::int64_t(box.right) - box.left;
+    std::int64_t h = std::int64_t(box.bottom) - box.top;
     if (w <= 0 || h <= 0 || y < box.top || y >= box.bottom) {
         return Run{};
     }
     std::int64_t v = 2 * std::int64_t(y) + 1 - (std::int64_t(box.top) + box.bottom);
-    std::int64_t limit = w * w * (h * h - v * v);
+    Wide limit = Wide(w) * w * (Wide(h) * h - Wide(v) * v);
     if (limit < 0) {
         return Run{};
     }
     // The largest u with u^2 h^2 <= limit.
-    auto fits = [&](std::int64_t u) { return u * u * h * h <= limit; };
+    auto fits = [&](std::int64_t u) { return Wide(u) * u * h * h <= limit; };
     std::int64_t u = std::int64_t(std::sqrt(double(limit)) / double(h));
     while (u > 0 && !fits(u)) {
         --u;

@@ -6,6 +6,10 @@
 //
 // A pen of width w draws the pixels of the shape that lie within w pixels of its edge; the
 // brush fills what is left inside.
+//
+// Only the rows that can be seen are worked out: those of the `visible` rectangle given when the
+// shape is made (the clip), and one more above and below it, so that a huge shape costs no more
+// than the surface it is drawn on.
 #include <algorithm>
 #include <vector>
 
@@ -22,19 +26,19 @@ public:
         bool IsEmpty() const { return Left >= Right; }
     };
 
-    static ShapeSpans Rectangle(const TRect& box);
-    static ShapeSpans Ellipse(const TRect& box);
+    static ShapeSpans Rectangle(const TRect& box, const TRect& visible);
+    static ShapeSpans Ellipse(const TRect& box, const TRect& visible);
     // Corner sizes beyond the box are cut to the box, so a corner as large as the box gives
     // the ellipse of the box.
-    static ShapeSpans RoundRect(const TRect& box, int cornerWidth, int cornerHeight);
+    static ShapeSpans RoundRect(const TRect& box, int cornerWidth, int cornerHeight,
+                                const TRect& visible);
 
-    int Top() const { return Box.top; }
-    int Bottom() const { return Box.bottom; }
     const TRect& GetBox() const { return Box; }
+    // The run of row y; empty outside the shape and outside the rows worked out.
     Run At(int y) const;
 
     // Calls outline(y, run) for each run a pen of `penWidth` draws, and inside(y, run) for
-    // each run of the brush. A width below 1 counts as 1.
+    // each run of the brush, over the rows worked out. A width below 1 counts as 1.
     template <typename Outline, typename Inside>
     void ForEachRun(int penWidth, Outline outline, Inside inside) const;
 
@@ -45,7 +49,8 @@ private:
         Ellipse,
         RoundRect,
     };
-    ShapeSpans(Kind kind, const TRect& box, int cornerWidth, int cornerHeight);
+    ShapeSpans(Kind kind, const TRect& box, int cornerWidth, int cornerHeight,
+               const TRect& visible);
     ShapeSpans Inset(int d) const;
     static Run EllipseRun(const TRect& box, int y);
 
@@ -53,21 +58,24 @@ private:
     TRect Box;
     int nCornerWidth;
     int nCornerHeight;
+    TRect Visible;
+    int nFirstRow = 0;
     std::vector<Run> aRows;
 };
 
 template <typename Outline, typename Inside>
 void ShapeSpans::ForEachRun(int penWidth, Outline outline, Inside inside) const
 {
-    int d = std::max(penWidth, 1) - 1;
+    int d = std::clamp(penWidth, 1, 1 << 15) - 1;
     ShapeSpans inner = d > 0 ? Inset(d) : *this;
     auto emit = [](auto& f, int y, int l, int r) {
         if (l < r) {
             f(y, Run{l, r});
         }
     };
-    for (int y = Box.top; y < Box.bottom; ++y) {
-        Run all = At(y);
+    for (int k = 0; k < int(aRows.size()); ++k) {
+        int y = nFirstRow + k;
+        Run all = aRows[std::size_t(k)];
         if (all.IsEmpty()) {
             continue;
         }

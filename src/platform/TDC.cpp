@@ -1,6 +1,8 @@
 #include "platform/TDC.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <numbers>
@@ -24,16 +26,22 @@ TFont DefaultFont()
 }
 
 // a * b / c rounded to the nearest, halves away from zero.
-int MulDiv(int a, int b, int c)
+long long MulDiv(long long a, long long b, long long c)
 {
     if (c == 0) {
         return 0;
     }
-    long long n = (long long)a * b;
+    long long n = a * b;
     long long half = std::llabs(c) / 2;
-    long long q = ((n >= 0) == (c > 0)) ? (std::llabs(n) + half) / std::llabs(c)
-                                        : -((std::llabs(n) + half) / std::llabs(c));
-    return int(q);
+    long long q = (std::llabs(n) + half) / std::llabs(c);
+    return (n >= 0) == (c > 0) ? q : -q;
+}
+
+constexpr long long kDeviceLimit = (1 << 30) - 1;
+
+int ClampToDevice(long long v)
+{
+    return int(std::clamp(v, -kDeviceLimit, kDeviceLimit));
 }
 
 int LengthOf(const char* text, int count)
@@ -258,24 +266,26 @@ bool TDC::IsScaled() const
     return WindowExt != ViewportExt;
 }
 
-TPoint TDC::ToDevice(int x, int y) const
+TPoint TDC::ToDevice(long long x, long long y) const
 {
     if (!IsScaled()) {
-        return TPoint(x - WindowOrg.x + ViewportOrg.x, y - WindowOrg.y + ViewportOrg.y);
+        return TPoint(ClampToDevice(x - WindowOrg.x + ViewportOrg.x),
+                      ClampToDevice(y - WindowOrg.y + ViewportOrg.y));
     }
-    return TPoint(MulDiv(x - WindowOrg.x, ViewportExt.cx, WindowExt.cx) + ViewportOrg.x,
-                  MulDiv(y - WindowOrg.y, ViewportExt.cy, WindowExt.cy) + ViewportOrg.y);
+    return TPoint(
+        ClampToDevice(MulDiv(x - WindowOrg.x, ViewportExt.cx, WindowExt.cx) + ViewportOrg.x),
+        ClampToDevice(MulDiv(y - WindowOrg.y, ViewportExt.cy, WindowExt.cy) + ViewportOrg.y));
 }
 
-TRect TDC::ToDevice(int x1, int y1, int x2, int y2) const
+TRect TDC::ToDevice(long long x1, long long y1, long long x2, long long y2) const
 {
     return TRect(ToDevice(x1, y1), ToDevice(x2, y2));
 }
 
 TSize TDC::SizeToDevice(int cx, int cy) const
 {
-    return TSize(std::abs(MulDiv(cx, ViewportExt.cx, WindowExt.cx)),
-                 std::abs(MulDiv(cy, ViewportExt.cy, WindowExt.cy)));
+    return TSize(ClampToDevice(std::llabs(MulDiv(cx, ViewportExt.cx, WindowExt.cx))),
+                 ClampToDevice(std::llabs(MulDiv(cy, ViewportExt.cy, WindowExt.cy))));
 }
 
 bool TDC::LPtoDP(TPoint* points, int count) const
@@ -296,8 +306,11 @@ bool TDC::DPtoLP(TPoint* points, int count) const
     }
     for (int i = 0; i < count; ++i) {
         TPoint& p = points[i];
-        p = TPoint(MulDiv(p.x - ViewportOrg.x, WindowExt.cx, ViewportExt.cx) + WindowOrg.x,
-                   MulDiv(p.y - ViewportOrg.y, WindowExt.cy, ViewportExt.cy) + WindowOrg.y);
+        p = TPoint(
+            ClampToDevice(MulDiv(std::int64_t(p.x) - ViewportOrg.x, WindowExt.cx, ViewportExt.cx) +
+                          WindowOrg.x),
+            ClampToDevice(MulDiv(std::int64_t(p.y) - ViewportOrg.y, WindowExt.cy, ViewportExt.cy) +
+                          WindowOrg.y));
     }
     return true;
 }
@@ -455,18 +468,20 @@ bool TDC::InvertRect(const TRect& rect)
 
 bool TDC::Rectangle(int x1, int y1, int x2, int y2)
 {
-    return DrawFigure(ShapeSpans::Rectangle(ToDevice(x1, y1, x2, y2)), Figure::Closed, {}, {});
+    return DrawFigure(ShapeSpans::Rectangle(ToDevice(x1, y1, x2, y2), DeviceClip()), Figure::Closed,
+                      {}, {});
 }
 
 bool TDC::Ellipse(int x1, int y1, int x2, int y2)
 {
-    return DrawFigure(ShapeSpans::Ellipse(ToDevice(x1, y1, x2, y2)), Figure::Closed, {}, {});
+    return DrawFigure(ShapeSpans::Ellipse(ToDevice(x1, y1, x2, y2), DeviceClip()), Figure::Closed,
+                      {}, {});
 }
 
 bool TDC::Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
 {
-    return DrawFigure(ShapeSpans::Ellipse(ToDevice(x1, y1, x2, y2)), Figure::Pie, ToDevice(x3, y3),
-                      ToDevice(x4, y4));
+    return DrawFigure(ShapeSpans::Ellipse(ToDevice(x1, y1, x2, y2), DeviceClip()), Figure::Pie,
+                      ToDevice(x3, y3), ToDevice(x4, y4));
 }
 
 bool TDC::Pie(const TRect& rect, const TPoint& start, const TPoint& end)
@@ -476,8 +491,8 @@ bool TDC::Pie(const TRect& rect, const TPoint& start, const TPoint& end)
 
 bool TDC::Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
 {
-    return DrawFigure(ShapeSpans::Ellipse(ToDevice(x1, y1, x2, y2)), Figure::Arc, ToDevice(x3, y3),
-                      ToDevice(x4, y4));
+    return DrawFigure(ShapeSpans::Ellipse(ToDevice(x1, y1, x2, y2), DeviceClip()), Figure::Arc,
+                      ToDevice(x3, y3), ToDevice(x4, y4));
 }
 
 bool TDC::Arc(const TRect& rect, const TPoint& start, const TPoint& end)
@@ -488,8 +503,9 @@ bool TDC::Arc(const TRect& rect, const TPoint& start, const TPoint& end)
 bool TDC::RoundRect(int x1, int y1, int x2, int y2, int x3, int y3)
 {
     TSize corner = SizeToDevice(x3, y3);
-    return DrawFigure(ShapeSpans::RoundRect(ToDevice(x1, y1, x2, y2), corner.cx, corner.cy),
-                      Figure::Closed, {}, {});
+    return DrawFigure(
+        ShapeSpans::RoundRect(ToDevice(x1, y1, x2, y2), corner.cx, corner.cy, DeviceClip()),
+        Figure::Closed, {}, {});
 }
 
 bool TDC::RoundRect(const TRect& rect, const TPoint& corner)
@@ -531,7 +547,9 @@ bool TDC::DrawFigure(const ShapeSpans& shape, Figure figure, TPoint start, TPoin
             raster.Run(y, run.Left, run.Right, value);
             return;
         }
-        for (int x = run.Left; x < run.Right; ++x) {
+        int left = std::max(run.Left, int(raster.GetClip().left));
+        int right = std::min(run.Right, int(raster.GetClip().right));
+        for (int x = left; x < right; ++x) {
             if (inside(x, y)) {
                 raster.Pixel(x, y, value);
             }
@@ -583,8 +601,9 @@ const FontInstance* TDC::CurrentFont() const
         return Font.GetInstance().get();
     }
     LOGFONT scaled = Font.GetLogFont();
-    scaled.lfHeight = MulDiv(scaled.lfHeight, std::abs(ViewportExt.cy), std::abs(WindowExt.cy));
-    scaled.lfWidth = MulDiv(scaled.lfWidth, std::abs(ViewportExt.cx), std::abs(WindowExt.cx));
+    scaled.lfHeight =
+        LONG(MulDiv(scaled.lfHeight, std::abs(ViewportExt.cy), std::abs(WindowExt.cy)));
+    scaled.lfWidth = LONG(MulDiv(scaled.lfWidth, std::abs(ViewportExt.cx), std::abs(WindowExt.cx)));
     if (scaled.lfHeight == 0 && Font.GetLogFont().lfHeight != 0) {
         scaled.lfHeight = Font.GetLogFont().lfHeight < 0 ? -1 : 1;
     }
@@ -663,8 +682,8 @@ bool TDC::GetTextExtent(const char* text, int count, TSize& size) const
     }
     size = font->Extent(text, LengthOf(text, count));
     if (IsScaled()) {
-        size = TSize(std::abs(MulDiv(size.cx, WindowExt.cx, ViewportExt.cx)),
-                     std::abs(MulDiv(size.cy, WindowExt.cy, ViewportExt.cy)));
+        size = TSize(ClampToDevice(std::llabs(MulDiv(size.cx, WindowExt.cx, ViewportExt.cx))),
+                     ClampToDevice(std::llabs(MulDiv(size.cy, WindowExt.cy, ViewportExt.cy))));
     }
     return true;
 }
@@ -678,8 +697,12 @@ bool TDC::GetTextMetrics(TEXTMETRIC& metrics) const
     }
     metrics = font->GetMetrics();
     if (IsScaled()) {
-        auto y = [&](LONG v) { return LONG(std::abs(MulDiv(v, WindowExt.cy, ViewportExt.cy))); };
-        auto x = [&](LONG v) { return LONG(std::abs(MulDiv(v, WindowExt.cx, ViewportExt.cx))); };
+        auto y = [&](LONG v) {
+            return LONG(ClampToDevice(std::llabs(MulDiv(v, WindowExt.cy, ViewportExt.cy))));
+        };
+        auto x = [&](LONG v) {
+            return LONG(ClampToDevice(std::llabs(MulDiv(v, WindowExt.cx, ViewportExt.cx))));
+        };
         metrics.tmHeight = y(metrics.tmHeight);
         metrics.tmAscent = y(metrics.tmAscent);
         metrics.tmDescent = y(metrics.tmDescent);
@@ -695,7 +718,7 @@ bool TDC::GetTextMetrics(TEXTMETRIC& metrics) const
 
 bool TDC::BitBlt(int x, int y, int width, int height, const TDC* source, int sx, int sy, DWORD rop)
 {
-    TRect target = ToDevice(x, y, x + width, y + height).Normalized();
+    TRect target = ToDevice(x, y, (long long)x + width, (long long)y + height).Normalized();
     Raster raster(*pSurface, DeviceClip());
     std::uint32_t pattern = Brush.IsNull() ? 0 : ValueOf(Brush.GetColor());
     if (!Blitter::UsesSource(rop)) {
@@ -705,7 +728,8 @@ bool TDC::BitBlt(int x, int y, int width, int height, const TDC* source, int sx,
     if (!source) {
         return false;
     }
-    TRect from = source->ToDevice(sx, sy, sx + width, sy + height).Normalized();
+    TRect from =
+        source->ToDevice(sx, sy, (long long)sx + width, (long long)sy + height).Normalized();
     PixelSource pixels(source->GetSurface());
     return Blitter::Blit(raster, target.left, target.top, target.Width(), target.Height(), &pixels,
                          from.left, from.top, from.Width(), from.Height(), rop, pattern);
@@ -717,8 +741,8 @@ bool TDC::StretchBlt(int x, int y, int width, int height, const TDC& source, int
     if (width <= 0 || height <= 0 || sw <= 0 || sh <= 0) {
         return false;
     }
-    TRect target = ToDevice(x, y, x + width, y + height).Normalized();
-    TRect from = source.ToDevice(sx, sy, sx + sw, sy + sh).Normalized();
+    TRect target = ToDevice(x, y, (long long)x + width, (long long)y + height).Normalized();
+    TRect from = source.ToDevice(sx, sy, (long long)sx + sw, (long long)sy + sh).Normalized();
     Raster raster(*pSurface, DeviceClip());
     std::uint32_t pattern = Brush.IsNull() ? 0 : ValueOf(Brush.GetColor());
     PixelSource pixels(source.GetSurface());
@@ -737,7 +761,7 @@ int TDC::StretchDIBits(int x, int y, int width, int height, int sx, int sy, int 
         return 0;
     }
     int top = info.bmiHeader.biHeight > 0 ? pixels.Height() - sy - sh : sy;
-    TRect target = ToDevice(x, y, x + width, y + height).Normalized();
+    TRect target = ToDevice(x, y, (long long)x + width, (long long)y + height).Normalized();
     Raster raster(*pSurface, DeviceClip());
     std::uint32_t pattern = Brush.IsNull() ? 0 : ValueOf(Brush.GetColor());
     bool done = Blitter::Blit(raster, target.left, target.top, target.Width(), target.Height(),

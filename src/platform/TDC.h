@@ -209,8 +209,10 @@ protected:
 
 private:
     bool IsScaled() const;
-    TPoint ToDevice(int x, int y) const;
-    TRect ToDevice(int x1, int y1, int x2, int y2) const;
+    // Device coordinates are kept within a billion pixels of the origin, so that no sum of
+    // them overflows.
+    TPoint ToDevice(long long x, long long y) const;
+    TRect ToDevice(long long x1, long long y1, long long x2, long long y2) const;
     TSize SizeToDevice(int cx, int cy) const;
     TRect DeviceClip() const;
     // The value of a colour on the present surface.

@@ -418,6 +418,35 @@ TEST_P(PixelRules, FarAwayCoordinatesAreClippedNotFollowed)
                                                     }));
 }
 
+TEST_P(PixelRules, HugeFiguresCostOnlyTheirVisiblePart)
+{
+    const int far = 2000000000;
+    Dc.SelectObject(TPen(TColor::White));
+    Dc.SelectObject(TBrush(TColor::White));
+    Dc.Ellipse(-far, -far, far, far);
+    EXPECT_EQ(PictureOf(Canvas), Rows(std::vector<std::string>(8, "########")));
+
+    Dc.SelectObject(TBrush(TColor::LtRed));
+    Dc.Pie(-far, -far, far, far, 0, 0, 0, 0);
+    Dc.RoundRect(-far, -far, far, far, far, far);
+    EXPECT_EQ(PictureOf(Canvas), Rows(std::vector<std::string>(8, "rrrrrrrr")));
+
+    Dc.SelectObject(TPen(TColor::LtBlue, 3));
+    Dc.MoveTo(-far, -far);
+    Dc.LineTo(far, far);
+    EXPECT_EQ(Canvas.ColorAt(4, 4), RGB(0, 0, 255));
+    EXPECT_EQ(Canvas.ColorAt(7, 0), RGB(255, 0, 0));
+    Dc.SelectObject(TPen(TColor::LtBlue, 1 << 30));
+    Dc.MoveTo(4, -far);
+    Dc.LineTo(4, far);
+    EXPECT_EQ(Canvas.ColorAt(7, 0), RGB(0, 0, 255)) << "a pen wider than the surface covers it";
+
+    Surface source(8, 8, GetParam());
+    TClientDC sourceDc(source);
+    EXPECT_TRUE(Dc.BitBlt(-far, -far, 2147483647, 2147483647, sourceDc, -far, -far, SRCCOPY));
+    EXPECT_TRUE(Dc.StretchBlt(-far, 0, 2147483647, 8, sourceDc, 0, 0, 8, 8, SRCCOPY));
+}
+
 TEST_P(PixelRules, SetPixelGivesTheColourThatWasSet)
 {
     TColor set = Dc.SetPixel(2, 2, TColor(250, 10, 10));
