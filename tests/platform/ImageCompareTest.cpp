@@ -5,6 +5,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <string>
+
+#include <unistd.h>
 
 #include "platform/ImageCompare.h"
 #include "platform/PngFile.h"
@@ -17,7 +20,10 @@ class GoldenPicture : public ::testing::Test
 protected:
     GoldenPicture()
     {
-        Dir = std::filesystem::temp_directory_path() / "orbiscope-image-compare-test";
+        // Tests may run at the same time in separate processes: each gets its own folder.
+        const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        Dir = std::filesystem::temp_directory_path() /
+              ("orbiscope-golden-test-" + std::to_string(getpid()) + "-" + test->name());
         std::filesystem::create_directories(Dir);
         unsetenv("ORBISCOPE_UPDATE_GOLDEN");
     }
@@ -143,7 +149,7 @@ TEST(PngFile, RefusesWhatIsNoPng)
     EXPECT_FALSE(WritePngFile("/nonexistent/dir/out.png",
                               ImageOfSurface(Surface(1, 1, PixelFormat::Rgb32))));
     PngImage empty;
-    EXPECT_FALSE(WritePngFile("/tmp/orbiscope-empty.png", empty));
+    EXPECT_FALSE(WritePngFile("/nonexistent/empty.png", empty)) << "refused before any file";
 }
 
 TEST(PngFile, TruncatedPictureIsRefused)

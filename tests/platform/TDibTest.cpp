@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include <unistd.h>
+
 #include "platform/DebugStream.h"
 #include "platform/ModuleResources.h"
 #include "platform/PngFile.h"
@@ -227,7 +229,8 @@ TEST(TDibFromBmp, DamagedFilesAreRefusedWhole)
 TEST(TDibFromFile, ReadsBmpAndPngFilesAndRefusesMissingOnes)
 {
     std::filesystem::path dir = std::filesystem::temp_directory_path();
-    std::string bmpPath = (dir / "orbiscope-tdib-test.bmp").string();
+    std::string stem = "orbiscope-tdib-test-" + std::to_string(getpid());
+    std::string bmpPath = (dir / (stem + ".bmp")).string();
     Bytes bmp = BmpFile(2, 1, 8, kThree, PackRows({{2, 1}}, 8));
     std::ofstream(bmpPath, std::ios::binary)
         .write(reinterpret_cast<const char*>(bmp.data()), long(bmp.size()));
@@ -239,7 +242,7 @@ TEST(TDibFromFile, ReadsBmpAndPngFilesAndRefusesMissingOnes)
     Surface s(3, 2, PixelFormat::Indexed8);
     s.SetValue(0, 0, 15);
     s.SetValue(2, 1, 200);
-    std::string pngPath = (dir / "orbiscope-tdib-test.png").string();
+    std::string pngPath = (dir / (stem + ".png")).string();
     ASSERT_TRUE(SaveSurfaceAsPng(s, pngPath));
     TDib fromPng(pngPath.c_str());
     ASSERT_TRUE(fromPng.IsOK());
