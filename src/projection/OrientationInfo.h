@@ -22,8 +22,6 @@ public:
         ROTATING = 1,
     };
 
-    OrientationInfo(const OrientationInfo&) = default;
-    OrientationInfo& operator=(const OrientationInfo&) = default;
     virtual ~OrientationInfo() = default;
 
     // The radius: a level at the caller's key (the kinds use "Base") holding "Radius". A
@@ -37,8 +35,8 @@ public:
     virtual PolarCoord GetZenith() const = 0;
     // A new orientation of the same kind and state, owned by the caller.
     virtual std::unique_ptr<OrientationInfo> Clone() const = 0;
-    // One step of a continuous movement. Only orientations that move against the stars
-    // scroll; here nothing happens and the answer is false.
+    // One step of a continuous movement of the view. Only the kind that stands on the ground
+    // steps; here nothing happens and the answer is false.
     virtual bool Scroll(AstroScrollInfo& info);
 
     int GetType() const { return nType; }
@@ -57,6 +55,9 @@ protected:
     OrientationInfo(int type, SolarSystemObject* origin, double radius)
         : nType(type), pOrigin(origin), Radius(radius)
     {}
+    // For the kinds' own copies (Clone); a copy through the base would lose the kind.
+    OrientationInfo(const OrientationInfo&) = default;
+    OrientationInfo& operator=(const OrientationInfo&) = default;
 
 private:
     int nType;

@@ -16,92 +16,69 @@ double SinDegrees(double degrees)
     return std::sin(DegreesToRadians(degrees));
 }
 
-double Distance(const TPoint& a, const TPoint& b)
-{
-    return std::hypot(double(a.x - b.x), double(a.y - b.y));
-}
-
 } // namespace
 
-TEST(Projector, EqualResolutionMeasuresTheShorterSide)
+TEST(Projector, MeasuresTheShorterSideAfterTheAspect)
 {
-    TestDevice device;
-    Projector projector(device.DC(), kScreen, 30.0);
+    TestDevice square, wide(192, 96), tall(96, 192), blind(0, 0);
+    Projector projector(square.DC(), kScreen, 30.0);
     EXPECT_EQ(projector.GetSmallerSide(), 480);
-    EXPECT_EQ(projector.GetXAspect(), 1.0);
-    EXPECT_EQ(projector.GetYAspect(), 1.0);
     EXPECT_DOUBLE_EQ(projector.GetScale(), 240.0 / SinDegrees(30.0));
     EXPECT_EQ(projector.GetCenterPoint(), TPoint(320, 240));
-    EXPECT_EQ(projector.GetFieldRadius(), 30.0);
     // The corner lies 400 units from the centre.
     EXPECT_NEAR(projector.GetVisibleRadius(),
                 RadiansToDegrees(std::asin(400.0 / projector.GetScale())), 1e-9);
+    EXPECT_EQ(Projector(square.DC(), TRect(100, 50, 741, 530), 30.0).GetCenterPoint(),
+              TPoint(420, 290));
 
-    // An offset rectangle has its centre point inside itself.
-    Projector offset(device.DC(), TRect(100, 50, 741, 530), 30.0);
-    EXPECT_EQ(offset.GetCenterPoint(), TPoint(100 + 320, 50 + 240));
-}
+    Projector stretched(wide.DC(), kScreen, 30.0);
+    EXPECT_EQ(stretched.GetXAspect(), 2.0);
+    EXPECT_EQ(stretched.GetYAspect(), 1.0);
+    EXPECT_EQ(stretched.GetSmallerSide(), 480);
+    EXPECT_DOUBLE_EQ(stretched.GetScale(), projector.GetScale());
+    EXPECT_EQ(Projector(tall.DC(), kScreen, 30.0).GetSmallerSide(), 640);
+    // A device that reports no resolution counts as square.
+    EXPECT_EQ(Projector(blind.DC(), kScreen, 30.0), projector);
 
-TEST(Projector, UnequalResolutionStretchesTheFinerAxis)
-{
-    TestDevice wide(192, 96);
-    Projector projector(wide.DC(), kScreen, 30.0);
-    EXPECT_EQ(projector.GetXAspect(), 2.0);
-    EXPECT_EQ(projector.GetYAspect(), 1.0);
-    EXPECT_EQ(projector.GetSmallerSide(), 480);
-    EXPECT_DOUBLE_EQ(projector.GetScale(), 240.0 / SinDegrees(30.0));
-
-    TestDevice tall(96, 192);
-    Projector upright(tall.DC(), kScreen, 30.0);
-    EXPECT_EQ(upright.GetYAspect(), 2.0);
-    EXPECT_EQ(upright.GetSmallerSide(), 640);
-
-    // The same direction lies twice as far along x, in device units, as along y would.
+    // On the wide device a direction lies twice as many units out along x as along y.
     TPoint right, up;
-    projector.Project(PolarCoord(90.0, 80.0), right);
-    projector.Project(PolarCoord(0.0, 80.0), up);
-    EXPECT_EQ(right.x - 320, projector.GetXExtent(DegreeAngle(10.0)));
-    EXPECT_EQ(240 - up.y, projector.GetYExtent(DegreeAngle(10.0)));
-    EXPECT_NEAR(projector.GetXExtent(DegreeAngle(10.0)),
-                2 * projector.GetYExtent(DegreeAngle(10.0)), 1);
+    stretched.Project(PolarCoord(90.0, 80.0), right);
+    stretched.Project(PolarCoord(0.0, 80.0), up);
+    EXPECT_EQ(right.x - 320, stretched.GetXExtent(DegreeAngle(10.0)));
+    EXPECT_EQ(240 - up.y, stretched.GetYExtent(DegreeAngle(10.0)));
+    EXPECT_NEAR(right.x - 320, 2 * (240 - up.y), 1);
 }
 
-TEST(Projector, DeviceWithoutResolutionCountsAsSquare)
-{
-    TestDevice blind(0, 0);
-    Projector projector(blind.DC(), kScreen, 30.0);
-    EXPECT_EQ(projector.GetXAspect(), 1.0);
-    EXPECT_EQ(projector.GetYAspect(), 1.0);
-    EXPECT_EQ(projector.GetSmallerSide(), 480);
-}
-
-TEST(Projector, RadiusNinetyShowsTheWholeHemisphere)
+TEST(Projector, RadiusNinetyShowsTheHemisphereWithItsBackFoldedOn)
 {
     TestDevice device;
     Projector projector(device.DC(), kScreen, 90.0);
     EXPECT_DOUBLE_EQ(projector.GetScale(), 240.0);
     EXPECT_EQ(projector.GetVisibleRadius(), 90.0);
-    // The corner is off the disc.
     PolarCoord untouched(12.0, 34.0);
     EXPECT_FALSE(projector.ReverseProject(TPoint(640, 480), untouched));
     EXPECT_EQ(untouched, PolarCoord(12.0, 34.0));
+
+    TPoint back(-1, -1), front(-2, -2);
+    EXPECT_FALSE(projector.Project(PolarCoord(45.0, -30.0), back));
+    EXPECT_TRUE(projector.Project(PolarCoord(45.0, 30.0), front));
+    EXPECT_EQ(back, front);
+    // Visible means within the visible radius, the rim included.
+    EXPECT_TRUE(projector.Project(PolarCoord(10.0, 0.0), back));
+    EXPECT_FALSE(projector.Project(PolarCoord(10.0, -1e-9), back));
 }
 
 TEST(Projector, RAIsClockwiseFromUpAndTruncatesTowardsTheCentre)
 {
     TestDevice device;
     Projector projector(device.DC(), kScreen, 30.0);
-    TPoint up, right, down, left;
+    TPoint up, right;
     projector.Project(PolarCoord(0.0, 70.0), up);
     projector.Project(PolarCoord(90.0, 70.0), right);
-    projector.Project(PolarCoord(180.0, 70.0), down);
-    projector.Project(PolarCoord(270.0, 70.0), left);
     EXPECT_EQ(up.x, 320);
     EXPECT_LT(up.y, 240);
     EXPECT_GT(right.x, 320);
     EXPECT_EQ(right.y, 240);
-    EXPECT_GT(down.y, 240);
-    EXPECT_LT(left.x, 320);
 
     // Mirror images across both axes stay mirror images: truncation goes towards the centre
     // on either side, not down.
@@ -113,35 +90,14 @@ TEST(Projector, RAIsClockwiseFromUpAndTruncatesTowardsTheCentre)
             projector.Project(PolarCoord(180.0 + ra, dec), c);
             ASSERT_EQ(a.x - 320, 320 - b.x);
             ASSERT_EQ(a.y, b.y);
-            ASSERT_EQ(a.x - 320, 320 - c.x);
-            ASSERT_EQ(a.y - 240, 240 - c.y);
+            ASSERT_EQ(a - TPoint(320, 240), TPoint(320, 240) - c);
         }
     }
 }
 
-TEST(Projector, FarHemisphereFoldsOntoTheDiscAndIsNotVisible)
+TEST(Projector, ReverseNearTheCentreIsThePoleOfTheView)
 {
-    TestDevice device;
-    Projector projector(device.DC(), kScreen, 90.0);
-    TPoint back(-1, -1), front(-2, -2);
-    EXPECT_FALSE(projector.Project(PolarCoord(45.0, -30.0), back));
-    EXPECT_TRUE(projector.Project(PolarCoord(45.0, 30.0), front));
-    EXPECT_EQ(back, front);
-    EXPECT_LE(Distance(back, projector.GetCenterPoint()), projector.GetScale());
-
-    // Visible means within the visible radius, the rim included.
-    TPoint ignored;
-    EXPECT_TRUE(projector.Project(PolarCoord(10.0, 0.0), ignored));
-    EXPECT_FALSE(projector.Project(PolarCoord(10.0, -1e-9), ignored));
-    Projector narrow(device.DC(), kScreen, 30.0);
-    double visible = narrow.GetVisibleRadius();
-    EXPECT_TRUE(narrow.Project(PolarCoord(10.0, 90.0 - visible + 1e-9), ignored));
-    EXPECT_FALSE(narrow.Project(PolarCoord(10.0, 90.0 - visible - 1e-9), ignored));
-}
-
-TEST(Projector, ReverseOfTheCentreIsThePoleOfTheView)
-{
-    TestDevice device;
+    TestDevice device, tall(96, 480);
     Projector projector(device.DC(), kScreen, 30.0);
     PolarCoord coord(5.0, 5.0);
     EXPECT_TRUE(projector.ReverseProject(TPoint(320, 240), coord));
@@ -149,35 +105,14 @@ TEST(Projector, ReverseOfTheCentreIsThePoleOfTheView)
 
     // Five times the resolution along y: one pixel up is a fifth of a unit, within a
     // quarter unit of the centre, and takes the same path; two pixels up do not.
-    TestDevice tall(96, 480);
     Projector fine(tall.DC(), kScreen, 30.0);
+    int centreY = fine.GetCenterPoint().y;
     coord = PolarCoord(5.0, 5.0);
-    EXPECT_TRUE(fine.ReverseProject(TPoint(320, fine.GetCenterPoint().y - 1), coord));
+    EXPECT_TRUE(fine.ReverseProject(TPoint(320, centreY - 1), coord));
     EXPECT_EQ(coord, PolarCoord(0.0, 90.0));
-    EXPECT_TRUE(fine.ReverseProject(TPoint(320, fine.GetCenterPoint().y - 2), coord));
+    EXPECT_TRUE(fine.ReverseProject(TPoint(320, centreY - 2), coord));
     EXPECT_EQ(coord.GetRA().GetDegrees(), 0.0);
     EXPECT_LT(coord.GetDec().GetDegrees(), 90.0);
-}
-
-TEST(Projector, ReverseProjectFindsTheDirectionOfEachPoint)
-{
-    TestDevice device(192, 96);
-    Projector projector(device.DC(), kScreen, 40.0);
-    for (int y = 0; y < 480; y += 37) {
-        for (int x = 0; x < 640; x += 29) {
-            PolarCoord coord;
-            if (!projector.ReverseProject(TPoint(x, y), coord)) {
-                continue;
-            }
-            // Forward again lands on the point or its neighbour, since both ways truncate.
-            TPoint again;
-            projector.Project(coord, again);
-            ASSERT_LE(std::abs(again.x - x), 1) << x << "," << y;
-            ASSERT_LE(std::abs(again.y - y), 1) << x << "," << y;
-            ASSERT_GE(coord.GetRA().GetDegrees(), 0.0);
-            ASSERT_LT(coord.GetRA().GetDegrees(), 360.0);
-        }
-    }
 }
 
 TEST(Projector, VectorsProjectByTheirXAndYWithTheFarSideRefused)
@@ -189,19 +124,14 @@ TEST(Projector, VectorsProjectByTheirXAndYWithTheFarSideRefused)
     TPoint point(7, 7);
     EXPECT_FALSE(projector.Project(RectCoord(0.1, 0.1, -0.01), point));
     EXPECT_EQ(point, TPoint(7, 7));
-
-    // x is stretched by the aspect of 2; y points up.
-    EXPECT_TRUE(projector.Project(RectCoord(0.1, 0.2, 0.9), point));
-    EXPECT_EQ(point.x, 320 + int(0.1 * scale * 2.0));
-    EXPECT_EQ(point.y, 240 - int(0.2 * scale));
-
-    // Inside means strictly within half the width and half the height.
+    // x is stretched by the aspect of 2; y points up. Inside means strictly within half the
+    // width and half the height.
     EXPECT_TRUE(projector.Project(RectCoord(319.5 / (scale * 2.0), 0.0, 0.5), point));
-    EXPECT_EQ(point.x, 639);
+    EXPECT_EQ(point, TPoint(639, 240));
     EXPECT_FALSE(projector.Project(RectCoord(320.5 / (scale * 2.0), 0.0, 0.5), point));
-    EXPECT_EQ(point.x, 640);
+    EXPECT_EQ(point, TPoint(640, 240));
     EXPECT_TRUE(projector.Project(RectCoord(0.0, -239.5 / scale, 0.5), point));
-    EXPECT_EQ(point.y, 479);
+    EXPECT_EQ(point, TPoint(320, 479));
     EXPECT_FALSE(projector.Project(RectCoord(0.0, -240.5 / scale, 0.5), point));
 }
 
@@ -212,20 +142,15 @@ TEST(Projector, RadiusOutOfRangeIsDrawnAtTheNearestOneTheMapAccepts)
     for (double radius : {0.0, -5.0, std::numeric_limits<double>::quiet_NaN()}) {
         Projector projector(device.DC(), kScreen, radius);
         EXPECT_EQ(projector.GetFieldRadius(), Projector::kMinimumFieldRadius);
-        EXPECT_TRUE(std::isfinite(projector.GetScale()));
-        EXPECT_GT(projector.GetScale(), 0.0);
         EXPECT_EQ(projector, smallest);
         // A direction a tenth of a degree up lies at the edge, not beyond any number.
         TPoint point;
         EXPECT_TRUE(projector.Project(PolarCoord(0.0, 89.9), point));
         EXPECT_NEAR(point.y, 0, 1);
     }
-
     Projector widest(device.DC(), kScreen, 90.0);
     for (double radius : {120.0, 270.0, std::numeric_limits<double>::infinity()}) {
-        Projector projector(device.DC(), kScreen, radius);
-        EXPECT_EQ(projector.GetFieldRadius(), 90.0);
-        EXPECT_EQ(projector, widest);
+        EXPECT_EQ(Projector(device.DC(), kScreen, radius), widest);
     }
 
     // Small positive radii are drawn as given, and far directions stay finite points.
@@ -259,13 +184,5 @@ TEST(Projector, EqualityComparesWhatTheProjectorWasBuiltFrom)
     EXPECT_NE(a, Projector(device.DC(), kScreen, 31.0));
     EXPECT_NE(a, Projector(device.DC(), TRect(0, 0, 640, 481), 30.0));
     EXPECT_NE(a, Projector(wide.DC(), kScreen, 30.0));
-
-    Projector empty;
-    EXPECT_EQ(empty.GetRect(), TRect());
-    EXPECT_EQ(empty.GetFieldRadius(), 0.0);
-    EXPECT_EQ(empty.GetVisibleRadius(), 0.0);
-    EXPECT_EQ(empty.GetScale(), 1.0);
-    EXPECT_EQ(empty.GetXAspect(), 1.0);
-    EXPECT_EQ(empty.GetSmallerSide(), 0);
-    EXPECT_EQ(empty.GetCenterPoint(), TPoint(0, 0));
+    EXPECT_NE(a, Projector());
 }
