@@ -1,0 +1,15 @@
+#pragma once
+// A device context on the surface of a drawing target, such as the client area of a window.
+// When it ends it tells the target, which may then show what was drawn.
+#include "platform/DrawingTarget.h"
+#include "platform/TDC.h"
+
+class TClientDC : public TDC
+{
+public:
+    explicit TClientDC(DrawingTarget& target);
+    ~TClientDC() override;
+
+private:
+    DrawingTarget& Target;
+};

@@ -1,0 +1,24 @@
+# The drawing layer draws text with FreeType and fontconfig and reads and writes pictures with
+# libpng.
+pkg_check_modules(ORBISCOPE_DRAWING REQUIRED IMPORTED_TARGET freetype2 fontconfig libpng)
+target_link_libraries(orbiscope_core PUBLIC PkgConfig::ORBISCOPE_DRAWING)
+
+# Pictures in src/<subsystem>/resources/ become the module's named resources.
+include("${CMAKE_CURRENT_LIST_DIR}/EmbedPictures.cmake")
+file(GLOB orbiscope_module_pictures CONFIGURE_DEPENDS
+     "${CMAKE_SOURCE_DIR}/src/*/resources/*.bmp" "${CMAKE_SOURCE_DIR}/src/*/resources/*.png")
+orbiscope_embed_pictures("${CMAKE_BINARY_DIR}/generated/ModulePictures.cpp" MODULE
+                         ${orbiscope_module_pictures})
+target_sources(orbiscope_core PRIVATE "${CMAKE_BINARY_DIR}/generated/ModulePictures.cpp")
+
+# Pictures in tests/platform/resources/ become resources of the platform tests alone. The test
+# program is made after this file runs, hence the deferred call.
+function(orbiscope_platform_test_pictures)
+  if(TARGET test_platform)
+    file(GLOB pictures CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/platform/resources/*.bmp"
+         "${CMAKE_SOURCE_DIR}/tests/platform/resources/*.png")
+    orbiscope_embed_pictures("${CMAKE_BINARY_DIR}/generated/TestPictures.cpp" ADDED ${pictures})
+    target_sources(test_platform PRIVATE "${CMAKE_BINARY_DIR}/generated/TestPictures.cpp")
+  endif()
+endfunction()
+cmake_language(DEFER DIRECTORY "${CMAKE_SOURCE_DIR}" CALL orbiscope_platform_test_pictures)
