@@ -151,21 +151,6 @@ TEST_F(AstroListTest, RemovingTimeDependentObjectsKeepsTheOrderOfTheRest)
     EXPECT_EQ(List.FindNearestObject(TPoint(5, 5), 3), b);
 }
 
-TEST_F(AstroListTest, RemovingTimeDependentObjectsFromPlanetsOnlyOrStarsOnly)
-{
-    Place(1, 1, true);
-    Place(2, 2, true);
-    List.RemoveTimeDependentObjects();
-    EXPECT_TRUE(List.IsEmpty());
-
-    Place(3, 3);
-    Place(4, 4);
-    List.FindNearestObject(TPoint(0, 0), 5);
-    List.RemoveTimeDependentObjects();
-    EXPECT_EQ(List.GetCount(), 2u);
-    EXPECT_FALSE(List.HasIndex());
-}
-
 TEST_F(AstroListTest, CopyListsTheSameObjectsWithoutTheIndex)
 {
     Place(1, 1);

@@ -96,32 +96,3 @@ TEST_F(RealStarLines, ReadBackWithTheirCatalogueValues)
     }
     EXPECT_EQ(count, std::size(kExpected));
 }
-
-TEST_F(RealStarLines, SurviveTheBinaryRecordUnchanged)
-{
-    std::vector<Star> stars(std::size(kLines));
-    ScratchFile binary;
-    {
-        HostFile out(binary.GetPath(), HostFile::WriteNew);
-        for (std::size_t i = 0; i < stars.size(); ++i) {
-            ASSERT_TRUE(stars[i].Initialize(kLines[i]));
-            ASSERT_TRUE(stars[i].Dump(out));
-        }
-    }
-    std::vector<unsigned char> bytes = binary.Bytes();
-    const void* next = bytes.data();
-    std::size_t left = bytes.size();
-    for (const Star& written : stars) {
-        Star read;
-        const void* after = read.Load(next, left);
-        ASSERT_NE(after, nullptr);
-        left -= std::size_t(static_cast<const unsigned char*>(after) -
-                            static_cast<const unsigned char*>(next));
-        next = after;
-        EXPECT_EQ(read.GetSAONumber(), written.GetSAONumber());
-        EXPECT_EQ(read.GetMagnitude(), written.GetMagnitude());
-        EXPECT_TRUE(read.GetPosition() == written.GetPosition());
-        EXPECT_EQ(*read.GetName(), *written.GetName());
-    }
-    EXPECT_EQ(left, 0u);
-}

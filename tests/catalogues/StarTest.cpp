@@ -162,14 +162,6 @@ TEST(Star, ListOrderIsByNameIgnoringCase)
     EXPECT_FALSE(alsoVega.IsLessThan(vega));
 }
 
-TEST(Star, UidIsTheBasePlusAThousandPlusTheSAONumber)
-{
-    EXPECT_EQ(Star(1, 0.0, PolarCoord()).GetUid(), 0x70000000u + 1001u);
-    EXPECT_EQ(Star(258997, 0.0, PolarCoord()).GetUid(), 0x70000000u + 259997u);
-    EXPECT_EQ(Star().GetType(), AstroObject::ObjectType::Star);
-    EXPECT_EQ(Star().GetTypeName(), "Star");
-}
-
 TEST(Star, LabelledOnlyWithPopularNamesWhenNamedAndBrightEnough)
 {
     DisplayParameters parameters;

@@ -180,6 +180,10 @@ TEST_F(StarDrawingTest, FastPathNeedsTheStarClearOfEveryEdge)
         EXPECT_EQ(Canvas.IndexAt(c.x + 2, c.y), expected) << c.x << ", " << c.y;
         EXPECT_EQ(Canvas.IndexAt(c.x - 2, c.y - 2), expected) << c.x << ", " << c.y;
     }
+    // Size 7 never takes the fast path, even in the middle.
+    Fill(0);
+    Ray(12, 12, 7);
+    EXPECT_EQ(Canvas.IndexAt(15, 12), SkyCanvas::kWhiteIndex);
 }
 
 TEST_F(StarDrawingTest, StarsAcrossTheEdgeAreClippedBySetPixel)
