@@ -1,0 +1,16 @@
+#include "catalogues/ObjectListWithDelete.h"
+
+ObjectListWithDelete::~ObjectListWithDelete()
+{
+    ObjectListWithDelete::Flush();
+}
+
+void ObjectListWithDelete::Flush()
+{
+    for (AstroObject* object : *this) {
+        if (object != nullptr) {
+            object->ReleaseReference();
+        }
+    }
+    clear();
+}

@@ -1,0 +1,114 @@
+#pragma once
+// An off-screen sky as the map makes it: a bottom-up 8-bit DIB section with the host palette,
+// selected into a memory context of a 96-dpi screen, its bits handed to a DisplayParameters.
+// Pictures of it are text, one character per pixel by palette index, so that a test states
+// the exact pixels it expects.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Gdi.h"
+#include "platform/HostPalette.h"
+#include "platform/Surface.h"
+#include "platform/TBitmap.h"
+#include "platform/TMemoryDC.h"
+#include "platform/TPalette.h"
+#include "skyview/DisplayParameters.h"
+
+class SkyCanvas
+{
+public:
+    // `width` should be a multiple of 8, as the map's bitmap is.
+    SkyCanvas(int width, int height) : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, Caps())
+    {
+        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
+        BITMAPINFOHEADER header{};
+        header.biSize = sizeof(BITMAPINFOHEADER);
+        header.biWidth = width;
+        header.biHeight = height;
+        header.biPlanes = 1;
+        header.biBitCount = 8;
+        header.biCompression = BI_RGB;
+        header.biSizeImage = DWORD(width * height);
+        header.biClrUsed = 256;
+        std::memcpy(info.data(), &header, sizeof header);
+        for (int i = 0; i < 256; ++i) {
+            WORD index = WORD(i);
+            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
+        }
+
+        Dc = std::make_unique<TMemoryDC>(ScreenDc);
+        Dc->SelectObject(HostPalette());
+        void* bits = nullptr;
+        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
+                                   DIB_PAL_COLORS, &bits, nullptr, 0);
+        Bitmap = std::make_unique<TBitmap>(hBitmap);
+        Dc->SelectObject(*Bitmap);
+        DIBSECTION section{};
+        GetObjectA(hBitmap, sizeof section, &section);
+        Parameters.SetFastDrawBitmapBits(bits, section.dsBmih);
+        Parameters.SetDC(Dc.get());
+        Parameters.SetDrawRect(TRect(0, 0, width, height));
+    }
+    ~SkyCanvas()
+    {
+        Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
+        Dc.reset();
+        Bitmap.reset();
+        DeleteObject(hBitmap);
+    }
+
+    // A 96-dpi screen, whatever the environment says.
+    static DeviceCaps Caps() { return DeviceCaps{}; }
+
+    // Sends stars through SetPixel, as when printing.
+    void WithoutFastBits() { Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{}); }
+
+    Surface& GetSurface() { return Dc->GetSurface(); }
+    TDC& GetDC() { return *Dc; }
+    unsigned IndexAt(int x, int y) { return GetSurface().ValueAt(x, y); }
+
+    // '.' for the night sky (index 0), '#' for white (255) and the characters of `legend` for
+    // other indexes; '?' for anything else.
+    std::string Picture(const TRect& area, const std::map<unsigned, char>& legend = {})
+    {
+        std::string text;
+        for (int y = area.top; y < area.bottom; ++y) {
+            for (int x = area.left; x < area.right; ++x) {
+                unsigned index = IndexAt(x, y);
+                auto found = legend.find(index);
+                text += found != legend.end()  ? found->second
+                        : index == 0           ? '.'
+                        : index == kWhiteIndex ? '#'
+                                               : '?';
+            }
+            text += '\n';
+        }
+        return text;
+    }
+
+    static constexpr unsigned kWhiteIndex = kHostPaletteWhite;
+
+    DisplayParameters Parameters;
+
+private:
+    Surface Screen;
+    TDC ScreenDc;
+    std::unique_ptr<TMemoryDC> Dc;
+    HBITMAP hBitmap = nullptr;
+    std::unique_ptr<TBitmap> Bitmap;
+};
+
+// Rows joined with line ends, as Picture writes them.
+inline std::string Rows(const std::vector<std::string>& rows)
+{
+    std::string text;
+    for (const std::string& row : rows) {
+        text += row + '\n';
+    }
+    return text;
+}
