@@ -65,6 +65,8 @@ public:
     DroppedList(TComboBox* combo) : TListBox(combo, kDroppedListId, 0, 0, 0, 0), Combo(*combo)
     {
         Attr.Style = WS_POPUP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY;
+        // The focus stays with the box while the list is used.
+        Attr.ExStyle |= WS_EX_NOACTIVATE;
     }
 
     LRESULT DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam) override

@@ -495,6 +495,8 @@ constexpr DWORD WS_THICKFRAME = 0x00040000;
 constexpr DWORD WS_GROUP = 0x00020000;
 constexpr DWORD WS_TABSTOP = 0x00010000;
 constexpr DWORD WS_OVERLAPPEDWINDOW = 0x00CF0000;
+// Extended styles: a window that clicks do not bring to the front (drop-down lists).
+constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
 // Dialog styles.
 constexpr DWORD DS_MODALFRAME = 0x00000080;
 constexpr DWORD DS_CENTER = 0x00000800;

@@ -639,7 +639,7 @@ void WindowSystem::InputMouse(UINT msg, TPoint screenPoint, int wheelDelta)
     HWND handle = target->HWindow;
     if (IsButtonDown(msg)) {
         TWindow* top = target->GetTopLevelWindow();
-        if (top && top->HWindow != hActive) {
+        if (top && top->HWindow != hActive && !(top->Attr.ExStyle & WS_EX_NOACTIVATE)) {
             Activate(*top);
         }
         DWORD now = Now();
@@ -701,7 +701,21 @@ void WindowSystem::InputKey(UINT msg, UINT virtualKey)
             return;
         }
     }
+    HWND handle = target->HWindow;
     Dispatch(*target, msg, virtualKey, flags);
+    // The characters that keys type by themselves, as TranslateMessage makes them.
+    if (msg == WM_KEYDOWN && FindWindow(handle)) {
+        char c = 0;
+        if (virtualKey == VK_BACK || virtualKey == VK_TAB || virtualKey == VK_RETURN ||
+            virtualKey == VK_ESCAPE) {
+            c = char(virtualKey == VK_RETURN ? '\r' : virtualKey);
+        } else if (aKeys[VK_CONTROL] && virtualKey >= 'A' && virtualKey <= 'Z') {
+            c = char(virtualKey - 'A' + 1);
+        }
+        if (c) {
+            InputChar(c);
+        }
+    }
 }
 
 void WindowSystem::InputChar(char c)

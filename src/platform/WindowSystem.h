@@ -85,7 +85,9 @@ public:
     // Shows a part of a top-level window's surface (window coordinates).
     void Present(TWindow& topLevel, const TRect& area);
 
-    // Input from the backend. Mouse points are on the screen.
+    // Input from the backend. Mouse points are on the screen. A key going down that types a
+    // character by itself (Backspace, Tab, Enter, Escape, a letter with Ctrl) gives WM_CHAR
+    // after WM_KEYDOWN; other characters come by InputChar.
     void InputMouse(UINT msg, TPoint screenPoint, int wheelDelta = 0);
     void InputKey(UINT msg, UINT virtualKey);
     void InputChar(char c);

@@ -34,6 +34,6 @@ protected:
     static void Pump() { WindowSystem::Get().ProcessAll(); }
     static HeadlessBackend& Desk() { return Headless(); }
 
-private:
+    // Modal windows a test leaves unanswered on purpose add to this.
     int nUnansweredBefore = 0;
 };

@@ -184,10 +184,16 @@ void HeadlessBackend::Type(const std::string& text)
     WindowSystem& system = WindowSystem::Get();
     for (char c : text) {
         UINT key = KeyOf(c);
+        // These keys type their character themselves, as letters do while Ctrl is down.
+        bool typesItself = key == VK_RETURN || key == VK_TAB || key == VK_BACK ||
+                           key == VK_ESCAPE ||
+                           (system.IsKeyDown(VK_CONTROL) && key >= 'A' && key <= 'Z');
         if (key) {
             system.InputKey(WM_KEYDOWN, key);
         }
-        system.InputChar(c == '\n' ? '\r' : c);
+        if (!typesItself) {
+            system.InputChar(c);
+        }
         if (key) {
             system.InputKey(WM_KEYUP, key);
         }

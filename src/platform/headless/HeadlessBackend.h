@@ -57,7 +57,9 @@ public:
     // Press at `from`, move in `steps` steps to `to`, release there.
     void Drag(const TWindow& window, TPoint from, TPoint to, int steps = 4);
 
-    // The keyboard: a key goes down and up; typing gives each character with its key.
+    // The keyboard: a key goes down and up (Backspace, Tab, Enter and Escape type their
+    // character on the way); typing gives each character with its key, and "\r", "\t", "\b"
+    // and "\x1b" press those keys.
     void KeyDown(UINT virtualKey);
     void KeyUp(UINT virtualKey);
     void PressKey(UINT virtualKey);
