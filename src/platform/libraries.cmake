@@ -22,3 +22,10 @@ function(orbiscope_platform_test_pictures)
   endif()
 endfunction()
 cmake_language(DEFER DIRECTORY "${CMAKE_SOURCE_DIR}" CALL orbiscope_platform_test_pictures)
+
+# The window system's backends: the headless desktop (tests, rendering) and SDL2 (a display).
+file(GLOB orbiscope_window_backends CONFIGURE_DEPENDS "${CMAKE_CURRENT_LIST_DIR}/headless/*.cpp"
+     "${CMAKE_CURRENT_LIST_DIR}/sdl/*.cpp")
+target_sources(orbiscope_core PRIVATE ${orbiscope_window_backends})
+pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
+target_link_libraries(orbiscope_core PUBLIC PkgConfig::SDL2)
