@@ -31,3 +31,16 @@ std::unique_ptr<OrientationInfo> FixedOrientationInfo::Clone() const
 {
     return std::make_unique<FixedOrientationInfo>(*this);
 }
+
+PolarCoord FixedOrientationInfo::NorthUpZenith(const PolarCoord& centre)
+{
+    const double ra = centre.GetRA().GetDegrees();
+    const double dec = centre.GetDec().GetDegrees();
+    if (dec >= 90.0) {
+        return PolarCoord(ra + 180.0, 0.0);
+    }
+    if (dec <= -90.0) {
+        return PolarCoord(ra, 0.0);
+    }
+    return PolarCoord(ra, 90.0);
+}

@@ -22,6 +22,12 @@ public:
     PolarCoord GetZenith() const override { return Zenith; }
     std::unique_ptr<OrientationInfo> Clone() const override;
 
+    // The zenith that puts north straight above `centre`: the north pole, or at a pole, where
+    // every direction is south or north, the limit of that as the centre nears the pole along
+    // its own meridian (the opposite meridian up at the north pole, the centre's own at the
+    // south pole).
+    static PolarCoord NorthUpZenith(const PolarCoord& centre);
+
 private:
     PolarCoord CenterOfView;
     PolarCoord Zenith;

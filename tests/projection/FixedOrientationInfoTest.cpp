@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <memory>
 
+#include "ProjectionTesting.h"
 #include "projection/FixedOrientationInfo.h"
+#include "projection/Transformation.h"
 #include "state/CmdLineStateContainer.h"
 
 class SolarSystemObject;
@@ -95,6 +97,40 @@ TEST(FixedOrientationInfo, MissingStateReadsAsZero)
     EXPECT_EQ(orientation.GetFieldRadius(), 0.0);
     EXPECT_EQ(orientation.GetCenterOfView(), PolarCoord(0, 0));
     EXPECT_EQ(orientation.GetZenith(), PolarCoord(0, 0));
+}
+
+TEST(FixedOrientationInfo, NorthUpPutsTheNorthPoleAboveTheCentreAndTurnsSmoothlyAtThePoles)
+{
+    EXPECT_EQ(FixedOrientationInfo::NorthUpZenith(PolarCoord(10, 20)), PolarCoord(10, 90));
+    EXPECT_EQ(FixedOrientationInfo::NorthUpZenith(PolarCoord(10, -89.5)), PolarCoord(10, 90));
+
+    // Seen along a meridian from just below a pole and at the pole itself, the same
+    // directions stand above and below the centre.
+    TestDevice device;
+    const TRect rect(0, 0, 400, 400);
+    auto view = [&](const PolarCoord& centre) {
+        return Transformation(device.DC(), rect, centre, 30.0,
+                              FixedOrientationInfo::NorthUpZenith(centre));
+    };
+    for (double ra : {0.0, 84.0, 300.0}) {
+        for (double pole : {90.0, -90.0}) {
+            const double sign = pole > 0 ? 1.0 : -1.0;
+            // Further north: towards the north pole, or away from the south pole.
+            const PolarCoord north(pole > 0 ? ra + 180.0 : ra, sign * 80.0);
+            const PolarCoord south(pole > 0 ? ra : ra + 180.0, sign * 80.0);
+            for (double dec : {pole, sign * 89.9}) {
+                Transformation t = view(PolarCoord(ra, dec));
+                TPoint up;
+                TPoint down;
+                t.Translate(north, up);
+                t.Translate(south, down);
+                EXPECT_NEAR(up.x, 200, 1) << ra << " " << dec;
+                EXPECT_LT(up.y, 150) << ra << " " << dec;
+                EXPECT_NEAR(down.x, 200, 1) << ra << " " << dec;
+                EXPECT_GT(down.y, 250) << ra << " " << dec;
+            }
+        }
+    }
 }
 
 TEST(OrientationInfo, EveryKindKeepsTypeRadiusAndOrigin)

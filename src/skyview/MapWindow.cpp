@@ -1,0 +1,741 @@
+#include "skyview/MapWindow.h"
+
+#include <cmath>
+#include <cstring>
+
+#include "catalogues/AstroObject.h"
+#include "host/HostProf.h"
+#include "platform/Gdi.h"
+#include "platform/TBitmap.h"
+#include "platform/TBrush.h"
+#include "platform/TFont.h"
+#include "platform/TMemoryDC.h"
+#include "platform/TPalette.h"
+#include "platform/TPen.h"
+#include "platform/WindowCalls.h"
+#include "projection/FixedOrientationInfo.h"
+#include "skyview/DrawTimeLimit.h"
+#include "skyview/StarDisplayParameters.h"
+#include "state/StateContainer.h"
+
+namespace {
+
+// The view a new map opens on: Orion, north up, 45 degrees to the nearer edge.
+const PolarCoord kDefaultCentre(84.0, 0.0);
+constexpr double kDefaultFieldRadius = 45.0;
+
+// Entries of the colour table of the off-screen bitmap: 16-bit indexes into the palette.
+constexpr int kDrawBitmapColours = 256;
+
+// Points along a meridian, and along a parallel, of the grid.
+constexpr double kMeridianStepFraction = 0.02;   // 50 steps over the Dec span
+constexpr double kParallelStepFraction = 0.0125; // 80 steps over the RA span
+constexpr int kParallelPoints = 81;
+
+// The status line: red, in a fixed-pitch face.
+const TColor kStatusTextColor(255, 0, 0);
+
+const TFont& StatusFont()
+{
+    static const TFont font("Courier", 10, 10, 0, 0, FW_NORMAL, 0, false, false, false,
+                            DEFAULT_CHARSET, 0, 0, 0);
+    return font;
+}
+
+} // namespace
+
+bool MapWindow::sbPainting = false;
+
+MapWindow::MapWindow(TWindow* parent)
+    : TWindow(parent), Zone(TimeZone::GetSystemTimeZone()), Time(AstroTime::GetTickCount())
+{
+    aGridLines.OwnsElements(true);
+    SetBkgndColor(TColor(0, 0, 0));
+    if (!pOrientation) {
+        pOrientation = std::make_unique<FixedOrientationInfo>(
+            nullptr, kDefaultCentre, FixedOrientationInfo::NorthUpZenith(kDefaultCentre),
+            kDefaultFieldRadius);
+    }
+    bMilitaryTime = HostProfile().GetBool("Orbiscope", "MilitaryTime", false);
+}
+
+MapWindow::~MapWindow()
+{
+    if (pStartingObject) {
+        pStartingObject->ReleaseReference();
+        pStartingObject = nullptr;
+    }
+    pTransformation.reset();
+    pOrientation.reset();
+    pMemoryDC.reset();
+    FreeDrawBitmap();
+    pPendingCenter.reset();
+}
+
+const TResponseRow* MapWindow::Find(const TEventInfo& event) const
+{
+    static const TResponseTable table{
+        EvRow<WM_SIZE, &MapWindow::EvSize>(),
+        EvRow<WM_TIMER, &MapWindow::EvTimer>(),
+        EvRow<WM_ERASEBKGND, &MapWindow::EvEraseBkgnd>(),
+        MsgRow<kShowStartingObjectMessage, &MapWindow::EvShowStartingObject>(),
+    };
+    const TResponseRow* row = table.Find(event);
+    return row ? row : TWindow::Find(event);
+}
+
+// The draw cycle.
+
+void MapWindow::Paint(TDC& dc, bool, TRect& rect)
+{
+    if (Display.IsPrinting() || sbPainting) {
+        return;
+    }
+    sbPainting = true;
+
+    TRect client = GetClientRect();
+    if (client.IsEmpty()) {
+        // Nothing to draw on until the window has a size.
+        sbPainting = false;
+        return;
+    }
+    const bool forceBackground = !Display.bPaletteForeground;
+    if (!pMemoryDC) {
+        pMemoryDC = std::make_unique<TMemoryDC>(dc);
+        pMemoryDC->SelectObject(*Display.GetPalette(), forceBackground);
+        pMemoryDC->RealizePalette();
+        FreeDrawBitmap();
+        AllocateDrawBitmap(*pMemoryDC, client.Size());
+        TBitmap bitmap(hDrawBitmap, NoAutoDelete);
+        pMemoryDC->SelectObject(bitmap);
+    }
+    if (IsAnythingDirty()) {
+        Display.SetDC(pMemoryDC.get());
+        Display.SetDrawRect(client);
+        DrawAll();
+        Display.pDC = nullptr;
+    }
+    if (pMemoryDC) {
+        dc.SelectObject(*Display.GetPalette(), forceBackground);
+        dc.RealizePalette();
+        dc.BitBlt(rect, *pMemoryDC, rect.TopLeft(), SRCCOPY);
+    }
+    if (pStartingObject) {
+        PostMessage(kShowStartingObjectMessage, 0, 0);
+    }
+    sbPainting = false;
+}
+
+void MapWindow::AllocateDrawBitmap(TDC& dc, const TSize& size)
+{
+    const int width = (size.cx + 7) / 8 * 8;
+    const int height = size.cy;
+
+    // The header, then the colour table: palette indexes 0 to 255 in order.
+    std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + kDrawBitmapColours * sizeof(WORD));
+    BITMAPINFOHEADER header{};
+    header.biSize = sizeof(BITMAPINFOHEADER);
+    header.biWidth = width;
+    header.biHeight = height; // positive: bottom-up
+    header.biPlanes = 1;
+    header.biBitCount = 8;
+    header.biCompression = BI_RGB;
+    header.biSizeImage = DWORD(width) * DWORD(height > 0 ? height : 0);
+    header.biClrUsed = kDrawBitmapColours;
+    header.biClrImportant = 0;
+    std::memcpy(info.data(), &header, sizeof header);
+    for (int i = 0; i < kDrawBitmapColours; ++i) {
+        WORD index = WORD(i);
+        std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
+    }
+
+    void* bits = nullptr;
+    hDrawBitmap = CreateDIBSection(dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
+                                   DIB_PAL_COLORS, &bits, nullptr, 0);
+    GiveDisplayTheBits();
+}
+
+void MapWindow::FreeDrawBitmap()
+{
+    if (hDrawBitmap) {
+        Display.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
+        DeleteObject(hDrawBitmap);
+        hDrawBitmap = nullptr;
+    }
+}
+
+void MapWindow::GiveDisplayTheBits()
+{
+    DIBSECTION section{};
+    if (hDrawBitmap && GetObjectA(hDrawBitmap, sizeof section, &section) != 0) {
+        Display.SetFastDrawBitmapBits(section.dsBm.bmBits, section.dsBmih);
+    } else {
+        Display.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
+    }
+}
+
+void MapWindow::DrawAll()
+{
+    if (!Display.pDC) {
+        return;
+    }
+    TDC& dc = *Display.pDC;
+    const TRect rect = Display.DrawRect;
+
+    // A scrolling frame must be done before the scroll timer fires again.
+    DrawTimeLimit limit;
+    if (bScrolling) {
+        limit.Start(DrawTimeLimit::ForScrollInterval(nScrollInterval));
+    }
+
+    // A map that was given no time opens at the present moment.
+    if (bNearestDarkPending) {
+        MakeTimeCurrent();
+        bNearestDarkPending = false;
+    }
+
+    bFirstDrawPending = false;
+
+    // The time update.
+    const bool timeChanged = bTimeDirty;
+    if (timeChanged) {
+        bTimeDirty = false;
+    }
+
+    // A centre that waited for the time update. The projection follows it: only a view that
+    // turns with the time would have asked for a new one already.
+    if (pPendingCenter) {
+        pOrientation->SetCenterOfView(*pPendingCenter);
+        pPendingCenter.reset();
+        bTransformationDirty = true;
+        bGridDirty = true;
+    }
+
+    // A new projection, and the parent hears of it.
+    if (bTransformationDirty) {
+        pTransformation = std::make_unique<Transformation>(
+            dc, rect, pOrientation->GetCenterOfView(), pOrientation->GetFieldRadius(),
+            pOrientation->GetZenith());
+        if (GetParentO() && nFieldChangeMessage != 0) {
+            GetParentO()->PostMessage(nFieldChangeMessage, 0, 0);
+        }
+        bTransformationDirty = false;
+    }
+
+    Display.pTransformation = pTransformation.get();
+
+    // The objects the view can show.
+    LoadVisibleObjects(*pTransformation);
+
+    // The sky. A printed page keeps its white paper.
+    if (!Display.IsPrinting()) {
+        dc.FillRect(rect, TBrush(Display.BackgroundColor));
+    }
+
+    if (Grid.bShow) {
+        DrawGrid(dc, rect, *pTransformation);
+    }
+
+    if (limit.IsExpired()) {
+        return;
+    }
+
+    // Stars go straight into the bitmap's bits: nothing may still be queued for them.
+    GdiFlush();
+
+    // The objects: a blinking object is left out in one phase; otherwise the draw
+    // may stop after every 16th object.
+    const std::size_t count = aVisibleObjects.GetCount();
+    if (!pBlinkObject) {
+        for (std::size_t i = 0; i < count; ++i) {
+            aVisibleObjects[i]->Draw(dc, Display);
+            if ((i & 15) == 0 && limit.IsExpired()) {
+                return;
+            }
+        }
+    } else {
+        for (std::size_t i = 0; i < count; ++i) {
+            AstroObject* object = aVisibleObjects[i];
+            if (!bBlinkPhase && object->IsSameObject(*pBlinkObject)) {
+                continue;
+            }
+            object->Draw(dc, Display);
+        }
+    }
+
+    if (limit.IsExpired()) {
+        return;
+    }
+    DisplayStatus(dc, rect);
+}
+
+void MapWindow::MarkAllDirty()
+{
+    bTransformationDirty = true;
+    bGridDirty = true;
+    bTimeDirty = true;
+    bStatusDirty = true;
+}
+
+bool MapWindow::IsAnythingDirty() const
+{
+    return bTransformationDirty || bTimeDirty || bGridDirty || bStatusDirty;
+}
+
+std::int32_t MapWindow::LoadVisibleObjects(Transformation&)
+{
+    // The old list goes, and with it the object under the mouse. The map has no catalogues
+    // yet, so no request can change the list.
+    pHilitedObject = nullptr;
+    return 0;
+}
+
+void MapWindow::DrawGrid(TDC& dc, const TRect&, Transformation& t)
+{
+    if (bGridDirty) {
+        LoadGridPoints(t);
+        bGridDirty = false;
+    }
+    dc.SelectObject(TPen(Grid.Color, 1, PS_SOLID));
+    for (const std::vector<TPoint>* line : aGridLines) {
+        bool penUp = true;
+        for (const TPoint& p : *line) {
+            if (p.x == kPenUpMarker) {
+                penUp = true;
+                continue;
+            }
+            if (penUp) {
+                dc.MoveTo(p);
+            } else {
+                dc.LineTo(p);
+            }
+            penUp = false;
+        }
+    }
+    dc.RestorePen();
+}
+
+void MapWindow::LoadGridPoints(Transformation& t)
+{
+    aGridLines.Flush();
+    if (Grid.nRALines == 0 || Grid.nDecLines == 0) {
+        return;
+    }
+    const double decStep = 360.0 / double(Grid.nDecLines);
+    const double raStep = 360.0 / double(Grid.nRALines);
+    // Fewer than 8 parallels to the turn would leave the sky nearly bare: no grid at all.
+    if (decStep > 45.0) {
+        return;
+    }
+
+    const SkyRange range = t.GetVisibleRange();
+    double decMin = -90.0;
+    double decMax = 90.0;
+    if (!range.GetDec().IsFull()) {
+        const double centre = range.GetDec().GetCenter().GetDegrees();
+        const double half = range.GetDec().GetHalfWidth().GetDegrees();
+        decMin = centre - half;
+        if (decMin < -90.0) {
+            decMin = -90.0;
+        }
+        decMax = centre + half;
+        if (decMax > 90.0) {
+            decMax = 90.0;
+        }
+    }
+
+    // No line of constant RA reaches a pole, and no parallel lies nearer to one than a step,
+    // where the meridians would crowd together.
+    double top = std::trunc(90.0 / decStep) * decStep;
+    if (90.0 - top < decStep) {
+        top -= decStep;
+    }
+    const double bottom = -top;
+
+    double raStart = 0.0;
+    double raSpan = 360.0;
+    if (!range.GetRA().IsFull()) {
+        const double centre = range.GetRA().GetCenter().GetDegrees();
+        const double half = range.GetRA().GetHalfWidth().GetDegrees();
+        raSpan = 2.0 * half;
+        raStart = centre - half;
+        if (raStart < 0.0) {
+            raStart += 360.0;
+        }
+    }
+
+    // A point out of view is kept once after a visible one, so that the line runs to the edge;
+    // a marker lifts the pen where the line comes back into view.
+    TPoint p;
+    auto follow = [&](std::vector<TPoint>& line, bool visible, bool wasVisible) {
+        if (visible || wasVisible) {
+            if (!wasVisible) {
+                line.push_back(TPoint(kPenUpMarker, kPenUpMarker));
+            }
+            line.push_back(p);
+        }
+    };
+    auto keep = [&](std::unique_ptr<std::vector<TPoint>> line) {
+        if (line->size() >= 2) {
+            aGridLines.Add(line.release());
+        }
+    };
+
+    // Meridians.
+    const double decInc = kMeridianStepFraction * (decMax - decMin);
+    const long meridians = long(std::trunc(raSpan / raStep));
+    const double lineStart = std::max(decMin, bottom);
+    const double lineEnd = std::min(decMax, top);
+    double ra = (std::trunc(raStart / raStep) + 1.0) * raStep;
+    for (long i = 0; i < meridians; ++i) {
+        if (ra > 360.0) {
+            ra -= 360.0;
+        }
+        auto line = std::make_unique<std::vector<TPoint>>();
+        bool wasVisible = false;
+        for (double dec = lineStart; dec < lineEnd; dec += decInc) {
+            const bool visible = t.Translate(PolarCoord(ra, dec), p);
+            follow(*line, visible, wasVisible);
+            wasVisible = visible;
+        }
+        if (wasVisible && t.Translate(PolarCoord(ra, lineEnd), p)) {
+            line->push_back(p);
+        }
+        keep(std::move(line));
+        ra += raStep;
+    }
+
+    // Parallels.
+    const double raInc = kParallelStepFraction * raSpan;
+    double dec = std::trunc(decMin / decStep) * decStep;
+    if (dec < bottom) {
+        dec = bottom;
+    }
+    long last = long(std::trunc(std::trunc(decMax / decStep) * decStep));
+    if (double(last) > top) {
+        last = long(std::trunc(top));
+    }
+    while (dec <= double(last)) {
+        auto line = std::make_unique<std::vector<TPoint>>();
+        bool wasVisible = false;
+        ra = raStart;
+        for (int k = 0; k < kParallelPoints; ++k) {
+            const bool visible = t.Translate(PolarCoord(ra, dec), p);
+            follow(*line, visible, wasVisible);
+            wasVisible = visible;
+            ra += raInc;
+            if (ra >= 360.0) {
+                ra -= 360.0;
+            }
+        }
+        keep(std::move(line));
+        dec += decStep;
+    }
+}
+
+void MapWindow::Erase(TDC& dc, const TRect& rect)
+{
+    dc.FillRect(rect, TBrush(GetBkgndColor()));
+}
+
+void MapWindow::DisplayStatus(TDC& dc, const TRect&)
+{
+    if (!Display.bShowStatus) {
+        return;
+    }
+    dc.SelectObject(StatusFont());
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(kStatusTextColor);
+    if (bStatusDirty) {
+        AstroTime local = Time - Zone;
+        local.SetMode(bMilitaryTime ? AstroTime::Clock24 : AstroTime::Clock12);
+        StatusText = local.GetDescription3(); // am or pm on the 12-hour clock
+        StatusText.append(" ").append(local.GetDescription2()).append("  ").append(LocationName);
+        TSize extent = dc.GetTextExtent(StatusText);
+        StatusRect = TRect(0, 0, extent.cx, extent.cy);
+        bStatusDirty = false;
+    }
+    dc.TextOut(0, 0, StatusText);
+    dc.RestoreFont();
+}
+
+// Message handlers.
+
+void MapWindow::EvSize(UINT sizeType, TSize& size)
+{
+    TWindow::EvSize(sizeType, size);
+    bTransformationDirty = true;
+    bGridDirty = true;
+    InvalidateView();
+    pMemoryDC.reset();
+    FreeDrawBitmap();
+}
+
+bool MapWindow::EvEraseBkgnd(HDC)
+{
+    return true;
+}
+
+LRESULT MapWindow::EvShowStartingObject(WPARAM, LPARAM)
+{
+    if (pStartingObject) {
+        pStartingObject->SetTime(Time);
+        pStartingObject->ReleaseReference();
+        pStartingObject = nullptr;
+    }
+    return 0;
+}
+
+void MapWindow::EvTimer(UINT)
+{
+    // The map runs no timers of its own yet.
+}
+
+// Changes of the view.
+
+void MapWindow::InvalidateView()
+{
+    if (HWindow) {
+        Invalidate(true);
+    }
+}
+
+void MapWindow::MakeTimeCurrent()
+{
+    Time = AstroTime::GetTickCount();
+}
+
+void MapWindow::SetTime(const AstroTime& time)
+{
+    Time = time;
+    bNearestDarkPending = false;
+    bTimeDirty = true;
+    bStatusDirty = true;
+    InvalidateView();
+}
+
+void MapWindow::SetFieldRadius(double radius)
+{
+    if (radius == pOrientation->GetFieldRadius() || !(radius <= kMaximumFieldRadius)) {
+        return;
+    }
+    pOrientation->SetFieldRadius(radius);
+    bTransformationDirty = true;
+    bGridDirty = true;
+    InvalidateView();
+}
+
+void MapWindow::SetOrientation(const OrientationInfo& orientation)
+{
+    pOrientation = orientation.Clone();
+    bTransformationDirty = true;
+    bGridDirty = true;
+    InvalidateView();
+}
+
+void MapWindow::ChangeCenterOfView(const PolarCoord& centre)
+{
+    if (centre == pOrientation->GetCenterOfView()) {
+        return;
+    }
+    LastTargetName.clear();
+    if (bTimeDirty) {
+        pPendingCenter = std::make_unique<PolarCoord>(centre);
+    } else {
+        pOrientation->SetCenterOfView(centre);
+        bTransformationDirty = true;
+        bGridDirty = true;
+    }
+    InvalidateView();
+}
+
+void MapWindow::SetGridInfo(const GridInfo& grid)
+{
+    if (grid.nDecLines >= kMaximumGridLines || grid.nRALines >= kMaximumGridLines) {
+        return;
+    }
+    Grid.SetFrom(grid);
+    bGridDirty = true;
+    InvalidateView();
+}
+
+void MapWindow::SetDisplayParameters(const DisplayParameters& parameters)
+{
+    // The surface, bits and projection belong to this map, not to the one copied from.
+    Transformation* projection = Display.pTransformation;
+    TDC* surface = Display.pDC;
+    Display.Copy(parameters);
+    Display.pTransformation = projection;
+    Display.pDC = surface;
+    GiveDisplayTheBits();
+    MarkAllDirty();
+    InvalidateView();
+}
+
+void MapWindow::SetStarDisplayParameters(const StarDisplayParameters& parameters)
+{
+    Display.SetStarDisplayParams(parameters);
+    bForceReload = true;
+    MarkAllDirty();
+    InvalidateView();
+}
+
+void MapWindow::SetLocationName(const std::string& name)
+{
+    LocationName = name;
+    bStatusDirty = true;
+    InvalidateView();
+}
+
+void MapWindow::ShowMessierObjects(bool show)
+{
+    if (show != bShowMessier) {
+        bShowMessier = show;
+        InvalidateView();
+    }
+}
+
+void MapWindow::ShowComets(bool show)
+{
+    if (show != bShowComets) {
+        bShowComets = show;
+        InvalidateView();
+    }
+}
+
+void MapWindow::ShowPlanets(bool show)
+{
+    if (show != bShowPlanets) {
+        bShowPlanets = show;
+        InvalidateView();
+    }
+}
+
+void MapWindow::Copy(MapWindow& other)
+{
+    SetDisplayParameters(other.Display);
+    pOrientation = other.pOrientation->Clone();
+    SetTime(other.Time);
+    SetGridInfo(other.Grid);
+    MarkAllDirty();
+    InvalidateView();
+}
+
+// Printing.
+
+void MapWindow::StartPrinting(DisplayParameters& parameters)
+{
+    pTransformation.reset();
+    Display.pTransformation = nullptr;
+    SavedDisplay = Display;
+    Display = parameters;
+    MarkAllDirty();
+    DrawAll();
+}
+
+void MapWindow::StopPrinting()
+{
+    Display = SavedDisplay;
+    // The bitmap may have changed while the page was drawn.
+    GiveDisplayTheBits();
+    MarkAllDirty();
+    InvalidateView();
+    UpdateWindow();
+}
+
+// The wait cursor.
+
+void MapWindow::ShowWaitCursor()
+{
+    if (nWaitCursors++ == 0) {
+        SavedCursorModule = GetCursorModule();
+        SavedCursorId = GetCursorResId();
+        SetCursor(nullptr, TResId(IDC_WAIT));
+    }
+}
+
+void MapWindow::RestoreCursor()
+{
+    if (nWaitCursors == 0) {
+        return;
+    }
+    if (--nWaitCursors == 0) {
+        SetCursor(SavedCursorModule, SavedCursorId);
+    }
+}
+
+// State.
+
+StateContainer& MapWindow::operator<<(StateContainer& sc) const
+{
+    return sc << NewLevel << AstroKey("Grid") << Grid << AstroKey("Orientation Type")
+              << pOrientation->GetType() << AstroKey("Orientation") << *pOrientation
+              << AstroKey("Animation") << Animation << AstroKey("Time") << Time
+              << AstroKey("TimeZone") << Zone << AstroKey("Show Nearest Dark Time At Startup")
+              << bShowNearestDarkTime << AstroKey("Display") << Display << AstroKey("Messier")
+              << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
+              << LocationName << EndLevel;
+}
+
+StateContainer& MapWindow::operator>>(StateContainer& sc)
+{
+    GridInfo grid = Grid;
+    int type = 0;
+    sc >> GoToLevel >> AstroKey("Grid") >> grid >> AstroKey("Animation") >> Animation >>
+        AstroKey("Time") >> Time >> AstroKey("TimeZone") >> Zone >>
+        AstroKey("Show Nearest Dark Time At Startup") >> bShowNearestDarkTime >>
+        AstroKey("Display") >> Display >> AstroKey("Orientation Type") >> type >>
+        AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
+        AstroKey("Comets") >> bShowComets;
+    SetGridInfo(grid);
+    ReadOrientation(sc, type);
+    sc >> EndLevel;
+    bNearestDarkPending = bShowNearestDarkTime;
+    AfterRestore();
+    return sc;
+}
+
+void MapWindow::SaveDefaultState(StateContainer& sc) const
+{
+    sc << AstroKey("Grid") << Grid << AstroKey("Orientation Type") << pOrientation->GetType()
+       << AstroKey("Orientation") << *pOrientation << AstroKey("Animation") << Animation
+       << AstroKey("TimeZone") << Zone << AstroKey("Display") << Display << AstroKey("Messier")
+       << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
+       << LocationName;
+}
+
+void MapWindow::RestoreDefaultState(StateContainer& sc)
+{
+    GridInfo grid = Grid;
+    int type = 0;
+    sc >> AstroKey("Grid") >> grid >> AstroKey("Animation") >> Animation >> AstroKey("TimeZone") >>
+        Zone >> AstroKey("Display") >> Display >> AstroKey("Location Name") >> LocationName >>
+        AstroKey("Messier") >> bShowMessier >> AstroKey("Comets") >> bShowComets >>
+        AstroKey("Orientation Type") >> type;
+    SetGridInfo(grid);
+    ReadOrientation(sc, type);
+    AfterRestore();
+}
+
+void MapWindow::ReadOrientation(StateContainer& sc, int)
+{
+    // Every saved kind comes back as a view fixed on the stars: the map has no other kind.
+    pOrientation = std::make_unique<FixedOrientationInfo>(nullptr);
+    sc >> AstroKey("Orientation") >> *pOrientation;
+}
+
+void MapWindow::AfterRestore()
+{
+    MarkAllDirty();
+    InvalidateView();
+}
+
+StateContainer& operator<<(StateContainer& sc, const MapWindow& map)
+{
+    return map.operator<<(sc);
+}
+
+StateContainer& operator>>(StateContainer& sc, MapWindow& map)
+{
+    return map.operator>>(sc);
+}

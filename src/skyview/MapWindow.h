@@ -1,0 +1,232 @@
+#pragma once
+// The sky map: the child window that owns the view (orientation, time, time zone, grid,
+// display parameters), the list of objects the view shows and an off-screen bitmap, and that
+// draws the sky.
+//
+// The map works by flags and repaint. Whatever changes the view raises dirty flags and
+// invalidates the window. Paint then runs DrawAll only when a flag stands, into the off-screen
+// bitmap, and copies the bitmap to the screen; a paint with nothing dirty is one copy. The
+// bitmap is an 8-bit DIB section whose width is a multiple of 8, so that stars can be written
+// straight into its bits.
+//
+// DrawAll runs one fixed order of steps: the time update, a pending centre, a new
+// Transformation when the projection changed, the request for objects, the background, the
+// grid, the objects, the status line. A draw is cut short only while the view scrolls, by the
+// scroll interval less 10 ms.
+//
+// The view is a FixedOrientationInfo looking at Orion (RA 84, Dec 0) with north up and a
+// field radius of 45 degrees until a view is set or restored. Angles are degrees, times are
+// Universal Time; the time zone is only for what the user reads.
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "catalogues/AstroList.h"
+#include "catalogues/ReferenceArray.h"
+#include "coords/PolarCoord.h"
+#include "platform/TPoint.h"
+#include "platform/TRect.h"
+#include "platform/TResId.h"
+#include "platform/TWindow.h"
+#include "projection/OrientationInfo.h"
+#include "projection/Transformation.h"
+#include "skyview/DisplayParameters.h"
+#include "skyview/GridInfo.h"
+#include "time/AnimationSettings.h"
+#include "time/AstroTime.h"
+#include "time/TimeZone.h"
+
+class AstroObject;
+class StateContainer;
+class StarDisplayParameters;
+class TMemoryDC;
+
+class MapWindow : public TWindow
+{
+public:
+    // The message the map posts to itself to show an object named before the first paint.
+    static constexpr UINT kShowStartingObjectMessage = 0x08B0;
+    // A wider field than this is refused: beyond it the hemisphere would fold back.
+    static constexpr double kMaximumFieldRadius = 90.0;
+    // A grid of this many lines or more is refused.
+    static constexpr std::uint32_t kMaximumGridLines = 500;
+    // The x of a point that lifts the pen in a grid polyline.
+    static constexpr int kPenUpMarker = -1000;
+
+    explicit MapWindow(TWindow* parent);
+    ~MapWindow() override;
+
+    // The draw cycle.
+    // Draws when a flag stands, then copies the off-screen bitmap to `rect` of `dc`. Does
+    // nothing while printing or while another paint of any map runs.
+    void Paint(TDC& dc, bool erase, TRect& rect) override;
+    // Draws the whole view into the surface and rectangle that Display holds.
+    void DrawAll();
+    // Raises every flag, so that the next paint draws everything again.
+    void MarkAllDirty();
+    bool IsAnythingDirty() const;
+    // A bottom-up 8-bit DIB section of `size` with its width rounded up to a multiple of 8,
+    // whose bits Display is given for direct drawing.
+    void AllocateDrawBitmap(TDC& dc, const TSize& size);
+    void FreeDrawBitmap();
+    // Asks for the objects the view can show; above 0 when the list was rebuilt.
+    std::int32_t LoadVisibleObjects(Transformation& t);
+    // Draws the grid's polylines, building them first when the grid is dirty.
+    void DrawGrid(TDC& dc, const TRect& rect, Transformation& t);
+    // Projects the meridians and parallels of the grid that the view can show.
+    void LoadGridPoints(Transformation& t);
+    // Fills the rectangle with the window's background colour.
+    void Erase(TDC& dc, const TRect& rect);
+    // The red status line in the top left corner: local time, date and place.
+    void DisplayStatus(TDC& dc, const TRect& rect);
+
+    // Message handlers.
+    void EvSize(UINT sizeType, TSize& size);
+    // The off-screen copy covers the window, so there is nothing to erase.
+    bool EvEraseBkgnd(HDC dc);
+    LRESULT EvShowStartingObject(WPARAM wParam, LPARAM lParam);
+    void EvTimer(UINT id);
+    const TResponseRow* Find(const TEventInfo& event) const override;
+
+    // Changes of the view. Each raises the flags its change needs and invalidates the window.
+    // The time becomes the present moment; no flag is raised.
+    void MakeTimeCurrent();
+    // Also ends the wait for the nearest dark time at start.
+    void SetTime(const AstroTime& time);
+    // Ignored when unchanged or above 90 degrees.
+    void SetFieldRadius(double radius);
+    // The map keeps a copy.
+    void SetOrientation(const OrientationInfo& orientation);
+    // Applied at once unless the time is dirty; then the next draw applies it after the time
+    // update, and only the last of several such changes counts.
+    void ChangeCenterOfView(const PolarCoord& centre);
+    // Takes the show flag and both counts, not the colour; ignored with 500 or more lines.
+    void SetGridInfo(const GridInfo& grid);
+    // Takes everything but the map's own drawing surface, bits and projection.
+    void SetDisplayParameters(const DisplayParameters& parameters);
+    void SetStarDisplayParameters(const StarDisplayParameters& parameters);
+    void SetLocationName(const std::string& name);
+    void ShowMessierObjects(bool show);
+    void ShowComets(bool show);
+    void ShowPlanets(bool show);
+    // Takes the view of another map: display, a copy of its orientation, time and grid.
+    void Copy(MapWindow& other);
+
+    // Printing: draws the view at once into the surface and rectangle of `parameters`, and
+    // keeps the screen's parameters until StopPrinting; meanwhile paints do nothing.
+    void StartPrinting(DisplayParameters& parameters);
+    void StopPrinting();
+
+    // The hourglass while the map is busy; calls nest.
+    void ShowWaitCursor();
+    void RestoreCursor();
+
+    // State. The whole view in a level at the caller's key, for bookmarks.
+    StateContainer& operator<<(StateContainer& sc) const;
+    StateContainer& operator>>(StateContainer& sc);
+    // The settings a restart keeps, without a level and without the time.
+    void SaveDefaultState(StateContainer& sc) const;
+    void RestoreDefaultState(StateContainer& sc);
+
+    // Messages to the parent: an object's article reference, and a new projection.
+    void SetReferenceMessage(UINT message) { nReferenceMessage = message; }
+    void SetFieldChangeMessage(UINT message) { nFieldChangeMessage = message; }
+    UINT GetReferenceMessage() const { return nReferenceMessage; }
+    UINT GetFieldChangeMessage() const { return nFieldChangeMessage; }
+
+    // What the map holds.
+    const AstroTime& GetTime() const { return Time; }
+    const TimeZone& GetTimeZone() const { return Zone; }
+    void SetTimeZone(const TimeZone& zone) { Zone = zone; }
+    const GridInfo& GetGridInfo() const { return Grid; }
+    const DisplayParameters& GetDisplayParameters() const { return Display; }
+    const OrientationInfo& GetOrientation() const { return *pOrientation; }
+    const AnimationSettings& GetAnimation() const { return Animation; }
+    const std::string& GetLocationName() const { return LocationName; }
+    bool IsShowingMessier() const { return bShowMessier; }
+    bool IsShowingComets() const { return bShowComets; }
+    bool IsShowingPlanets() const { return bShowPlanets; }
+    bool IsMilitaryTime() const { return bMilitaryTime; }
+    // The projection of the last draw; null before the first one.
+    const Transformation* GetTransformation() const { return pTransformation.get(); }
+    // The grid's polylines in screen points; a point with x kPenUpMarker lifts the pen.
+    const ReferenceArray<std::vector<TPoint>>& GetGridLines() const { return aGridLines; }
+    const AstroList& GetVisibleObjects() const { return aVisibleObjects; }
+    // The off-screen context and bitmap; null until the first paint and after a resize.
+    const TMemoryDC* GetMemoryDC() const { return pMemoryDC.get(); }
+    HBITMAP GetDrawBitmap() const { return hDrawBitmap; }
+    const std::string& GetStatusText() const { return StatusText; }
+    const TRect& GetStatusRect() const { return StatusRect; }
+    unsigned GetWaitCursorDepth() const { return nWaitCursors; }
+
+    // The flags, for those who wait on a draw.
+    bool IsGridDirty() const { return bGridDirty; }
+    bool IsTransformationDirty() const { return bTransformationDirty; }
+    bool IsTimeDirty() const { return bTimeDirty; }
+    bool IsStatusDirty() const { return bStatusDirty; }
+    bool IsFirstDrawPending() const { return bFirstDrawPending; }
+    bool IsNearestDarkPending() const { return bNearestDarkPending; }
+
+private:
+    // Invalidates the whole client area once the window exists.
+    void InvalidateView();
+    // Gives Display the bits of the present off-screen bitmap, or none.
+    void GiveDisplayTheBits();
+    // The state keys shared by the full and the default state, after an orientation of the
+    // type read has been made.
+    void ReadOrientation(StateContainer& sc, int type);
+    // The end of every restore: all dirty, repaint.
+    void AfterRestore();
+
+    ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
+    AstroList aVisibleObjects{500, 1000};
+    bool bGridDirty = true;
+    TimeZone Zone;
+    DisplayParameters Display;
+    DisplayParameters SavedDisplay;
+    std::unique_ptr<TMemoryDC> pMemoryDC;
+    HBITMAP hDrawBitmap = nullptr;
+    bool bTransformationDirty = true;
+    bool bTimeDirty = true;
+    bool bFirstDrawPending = true;
+    std::unique_ptr<PolarCoord> pPendingCenter;
+    // Holds one reference.
+    AstroObject* pStartingObject = nullptr;
+    std::unique_ptr<OrientationInfo> pOrientation;
+    TModule* SavedCursorModule = nullptr;
+    TResId SavedCursorId{0};
+    std::uint32_t nWaitCursors = 0;
+    UINT nReferenceMessage = 0;
+    UINT nFieldChangeMessage = 0;
+    std::unique_ptr<Transformation> pTransformation;
+    bool bMilitaryTime = false;
+    AstroTime Time;
+    bool bShowNearestDarkTime = false;
+    bool bNearestDarkPending = true;
+    AnimationSettings Animation;
+    GridInfo Grid;
+    AstroObject* pHilitedObject = nullptr;
+    bool bStatusDirty = true;
+    std::string StatusText;
+    TRect StatusRect;
+    bool bScrolling = false;
+    // The scroll timer's pace in milliseconds.
+    std::int32_t nScrollInterval = 350;
+    bool bShowMessier = false;
+    bool bShowComets = false;
+    bool bForceReload = false;
+    bool bShowPlanets = true;
+    std::string LocationName;
+    // The name of the object last brought into view; empty after the view moved freely.
+    std::string LastTargetName;
+    AstroObject* pBlinkObject = nullptr;
+    bool bBlinkPhase = false;
+
+    // Guards Paint against re-entry, for every map of the process (a preview's too).
+    static bool sbPainting;
+};
+
+// `sc << AstroKey("MapWindow") << map` and the reverse.
+StateContainer& operator<<(StateContainer& sc, const MapWindow& map);
+StateContainer& operator>>(StateContainer& sc, MapWindow& map);

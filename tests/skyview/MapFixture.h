@@ -1,0 +1,106 @@
+#pragma once
+// A sky map on the headless desktop: a top-level window that writes down the messages the map
+// sends it, with a MapWindow filling its client area, and ways to read both the screen and
+// the map's off-screen bitmap.
+#include <memory>
+#include <vector>
+
+#include "platform/HostPalette.h"
+#include "platform/Surface.h"
+#include "platform/TMemoryDC.h"
+#include "platform/TPalette.h"
+#include "platform/TWindow.h"
+#include "skyview/MapWindow.h"
+#include "windows/HeadlessFixture.h"
+
+// The message the map posts when it has built a new projection.
+constexpr UINT kFieldChange = 0x07EA;
+
+class MapHost : public TWindow
+{
+public:
+    MapHost(int width, int height) : TWindow(nullptr, "Map host")
+    {
+        Attr.X = 10;
+        Attr.Y = 10;
+        Attr.W = width;
+        Attr.H = height;
+        pMap = new MapWindow(this);
+        pMap->Attr.W = width;
+        pMap->Attr.H = height;
+        pMap->SetFieldChangeMessage(kFieldChange);
+    }
+
+    LRESULT WindowProc(UINT msg, WPARAM wParam, LPARAM lParam) override
+    {
+        if (msg == kFieldChange) {
+            ++nFieldChanges;
+        }
+        return TWindow::WindowProc(msg, wParam, lParam);
+    }
+
+    // Owned by this window.
+    MapWindow* pMap = nullptr;
+    int nFieldChanges = 0;
+};
+
+class MapTest : public HeadlessTest
+{
+protected:
+    void TearDown() override
+    {
+        if (pHost) {
+            pHost->Destroy();
+            pHost.reset();
+        }
+        HeadlessTest::TearDown();
+    }
+
+    // A map of that size on the screen, painted once.
+    MapWindow& Open(int width, int height)
+    {
+        pHost = std::make_unique<MapHost>(width, height);
+        pHost->Create();
+        // The time zone of the machine running the tests must not show in the status line.
+        pHost->pMap->SetTimeZone(TimeZone());
+        Pump();
+        return *pHost->pMap;
+    }
+
+    MapWindow& Map() { return *pHost->pMap; }
+
+    // What the screen shows of the map.
+    std::unique_ptr<Surface> Screen() { return WindowSystem::Get().CaptureWindow(Map().HWindow); }
+
+    // The off-screen bitmap; only after a paint.
+    Surface& Bitmap() { return Map().GetMemoryDC()->GetSurface(); }
+
+    // Repaints the whole map through the message loop.
+    void Repaint()
+    {
+        Map().Invalidate();
+        Pump();
+    }
+
+    static unsigned GridIndex() { return HostPalette().GetNearestPaletteIndex(GridInfo().Color); }
+
+    static GridInfo ShownGrid(unsigned raLines = 24, unsigned decLines = 36)
+    {
+        return GridInfo(raLines, decLines, true);
+    }
+
+    // Pixels of the bitmap with the grid's palette index.
+    int CountGridPixels()
+    {
+        int n = 0;
+        Surface& bits = Bitmap();
+        for (int y = 0; y < bits.Height(); ++y) {
+            for (int x = 0; x < bits.Width(); ++x) {
+                n += bits.ValueAt(x, y) == GridIndex();
+            }
+        }
+        return n;
+    }
+
+    std::unique_ptr<MapHost> pHost;
+};
