@@ -1,0 +1,142 @@
+// The shipped star files, read through the star index: well-known stars stand where the
+// catalogues put them, and the collector finds and chooses the files the profile names.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <set>
+
+#include "StarIndexTesting.h"
+#include "catalogues/AstroItemCollector.h"
+#include "catalogues/AstroList.h"
+#include "catalogues/Star.h"
+
+namespace {
+
+struct KnownStar
+{
+    std::uint32_t SAONumber;
+    const char* Name;
+    double RA, Dec;   // J2000, degrees
+    double Magnitude; // V
+};
+
+// Positions and V magnitudes from the Bright Star Catalogue, 5th edition.
+const KnownStar kKnown[] = {
+    {151881, "Sirius", 101.287, -16.716, -1.46},
+    {308, "Polaris", 37.953, 89.264, 2.02},
+    {113271, "Betelgeuse", 88.793, 7.407, 0.50},
+    {67174, "Vega", 279.235, 38.784, 0.03},
+};
+
+class StarFilesTest : public ::testing::Test
+{
+protected:
+    // The shipped profile alone: an empty user configuration.
+    ScratchDirectory Home;
+    MessageCapture Messages;
+};
+
+void ExpectKnownStars(StarCatalogue& catalogue, double magnitudeTolerance)
+{
+    for (const KnownStar& known : kKnown) {
+        std::unique_ptr<Star> star(catalogue.GetStarFromSAONumber(known.SAONumber));
+        ASSERT_NE(star, nullptr) << known.Name;
+        EXPECT_EQ(star->GetListName(), known.Name);
+        // Within 0.001 degree on the sky; near the pole RA itself may differ more.
+        double dRA = (star->GetPosition().GetRA().GetDegrees() - known.RA) *
+                     std::cos(known.Dec / 180.0 * 3.141592653589793);
+        EXPECT_NEAR(dRA, 0.0, 0.001) << known.Name;
+        EXPECT_NEAR(star->GetPosition().GetDec().GetDegrees(), known.Dec, 0.001) << known.Name;
+        EXPECT_NEAR(star->GetMagnitude(), known.Magnitude, magnitudeTolerance) << known.Name;
+    }
+}
+
+// Every segment read once, each with all the stars its header promises.
+std::size_t ReadWholeFile(StarCatalogue& catalogue, std::set<std::uint32_t>& numbers)
+{
+    std::size_t stars = 0;
+    for (const Segment& segment : catalogue.GetSegments()) {
+        EXPECT_FALSE(segment.IsLoaded());
+    }
+    auto named = catalogue.GetListOfNamedObjects();
+    for (AstroObject* object : *named) {
+        numbers.insert(static_cast<Star*>(object)->GetSAONumber());
+    }
+    for (const Segment& segment : catalogue.GetSegments()) {
+        stars += std::size_t(segment.GetStarCount());
+    }
+    return stars;
+}
+
+} // namespace
+
+TEST_F(StarFilesTest, BrightStarFileHoldsTheBrightStarCatalogue)
+{
+    StarCatalogue bright;
+    ASSERT_TRUE(bright.Load("ed:\\bright.bin"));
+    ASSERT_EQ(bright.GetSegments().size(), 64u);
+    EXPECT_EQ(bright.GetSegments()[0].GetFileOffset(), 2828);
+    ExpectKnownStars(bright, 0.0);
+
+    std::set<std::uint32_t> named;
+    EXPECT_GT(ReadWholeFile(bright, named), 9000u);
+    EXPECT_GT(named.size(), 500u);
+    EXPECT_TRUE(named.count(151881));
+    // The faintest star of the file is no fainter than the file says.
+    EXPECT_GT(bright.GetMaxMagnitude(), 6.5);
+    EXPECT_LT(bright.GetMaxMagnitude(), 8.0);
+    EXPECT_TRUE(Messages.Messages.empty());
+}
+
+TEST_F(StarFilesTest, LargeStarFileReachesFainterWithTheSameStars)
+{
+    StarCatalogue large;
+    ASSERT_TRUE(large.Load("cd:\\win32\\stars.bin"));
+    ASSERT_EQ(large.GetSegments().size(), 64u);
+    // Hipparcos magnitudes differ from the Bright Star Catalogue's by a few hundredths.
+    ExpectKnownStars(large, 0.06);
+
+    std::set<std::uint32_t> named;
+    EXPECT_GT(ReadWholeFile(large, named), 100000u);
+    EXPECT_TRUE(named.count(67174));
+    EXPECT_GT(large.GetMaxMagnitude(), 9.0);
+    EXPECT_TRUE(Messages.Messages.empty());
+}
+
+TEST_F(StarFilesTest, ShippedProfileLeadsTheCollectorToBothFiles)
+{
+    AstroItemCollector collector;
+    StarCatalogue* bright = collector.ChooseStarCatalogue(6.0);
+    StarCatalogue* large = collector.ChooseStarCatalogue(9.0);
+    ASSERT_NE(bright, nullptr);
+    ASSERT_NE(large, nullptr);
+    EXPECT_LT(bright->GetMaxMagnitude(), large->GetMaxMagnitude());
+    EXPECT_EQ(collector.GetStarCatalogues()[0], bright);
+    EXPECT_EQ(collector.GetStarCatalogues()[1], large);
+
+    Star* sirius = collector.GetStarFromSAONumber(151881);
+    ASSERT_NE(sirius, nullptr);
+    EXPECT_EQ(sirius->GetMagnitude(), -1.46); // from the bright file
+    sirius->ReleaseReference();
+    EXPECT_TRUE(Resident(large->GetSegments()).empty());
+}
+
+TEST_F(StarFilesTest, SiriusOutshinesEveryStarAroundIt)
+{
+    AstroItemCollector collector;
+    TestScreen screen;
+    Request request(screen.View(PolarCoord(101.287, -16.716), 20.0),
+                    CatalogueSet(AstroCatalogue::STARS), AstroTime(1, 1, 2000, 0.0), 9.0);
+    AstroList list(500, 1000);
+    ASSERT_TRUE(collector.SatisfyRequest(request, list));
+    ASSERT_GT(list.GetCount(), 1000u);
+    const AstroObject* brightest = nullptr;
+    for (const AstroObject* object : list) {
+        if (brightest == nullptr || object->GetMagnitude() < brightest->GetMagnitude()) {
+            brightest = object;
+        }
+    }
+    EXPECT_EQ(brightest->GetListName(), "Sirius");
+    EXPECT_EQ(brightest->GetDisplayPoint(), TPoint(512, 384));
+}
