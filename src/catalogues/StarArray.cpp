@@ -30,13 +30,11 @@ bool StarArray::Load(HostFile& file)
         return promised == 0;
     }
     // Never more bytes than the file holds beyond this point, so a damaged header cannot ask
-    // for an absurd buffer.
-    std::size_t wanted = std::size_t(nBytes);
-    long here = file.Tell();
-    long length = file.Length();
-    if (here >= 0 && length >= here) {
-        wanted = std::min(wanted, std::size_t(length - here));
-    }
+    // for an absurd buffer; a position past the end holds none.
+    const long here = file.Tell();
+    const long length = file.Length();
+    const std::size_t available = here >= 0 && length > here ? std::size_t(length - here) : 0;
+    const std::size_t wanted = std::min(std::size_t(nBytes), available);
     std::unique_ptr<unsigned char[]> buffer(new unsigned char[wanted == 0 ? 1 : wanted]);
     std::size_t got = file.Read(buffer.get(), wanted);
 

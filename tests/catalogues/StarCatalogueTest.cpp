@@ -189,9 +189,13 @@ TEST_F(StarCatalogueTest, HeadersThatPromiseTooMuchReadOnlyWhatTheFileHolds)
     // Segment 20 claims every record to the end of the file and far more.
     PutInt32(bytes, HeaderField(20, 1), 0x7FFFFFFF);
     PutInt32(bytes, HeaderField(20, 2), 0x7FFFFFFF);
-    // Segment 2 starts before the file, segment 61 has a negative size.
+    // Segment 2 starts before the file, segment 61 has a negative size, segment 62 starts
+    // far past the end with a size to match.
     PutInt32(bytes, HeaderField(2, 0), -5);
     PutInt32(bytes, HeaderField(61, 2), -29);
+    PutInt32(bytes, HeaderField(62, 0), 0x40000000);
+    PutInt32(bytes, HeaderField(62, 1), 1000);
+    PutInt32(bytes, HeaderField(62, 2), 0x7FFFFFFF);
     StarCatalogue catalogue;
     LoadChanged(catalogue, bytes);
 
@@ -203,7 +207,10 @@ TEST_F(StarCatalogueTest, HeadersThatPromiseTooMuchReadOnlyWhatTheFileHolds)
     EXPECT_EQ(stars->size(), 4u);
     EXPECT_TRUE(Shown(catalogue, PolarCoord(100, 60), 10.0).empty());
     EXPECT_TRUE(Shown(catalogue, PolarCoord(250, -60), 10.0).empty());
+    EXPECT_TRUE(Shown(catalogue, PolarCoord(290, -60), 10.0).empty());
+    EXPECT_TRUE(catalogue.GetSegments()[62].IsLoaded());
     EXPECT_TRUE(messages.Contains("offset -5"));
+    EXPECT_TRUE(messages.Contains("gave 0 of its 1000 stars"));
 }
 
 TEST_F(StarCatalogueTest, FileWithOneSegmentServesAsWellAsSixtyFour)
