@@ -1,17 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <memory>
-#include <set>
 
 #include "StarIndexTesting.h"
 #include "catalogues/AstroItemCollector.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/Star.h"
-#include "host/HostProf.h"
-#include "solar/SolarSystemObject.h"
 
 namespace {
 
@@ -50,37 +44,48 @@ const std::vector<std::string> kDeep = {StarLine(10, 1.5, 10.0, 10.0, "Ten"),
 class AstroItemCollectorTest : public ::testing::Test
 {
 protected:
-    // The profile names the two star files, in the order given.
-    void UseStarFiles(const std::string& bright, const std::string& large)
+    // The profile of the scratch directory names the two star files, in this order.
+    static void UseStarFiles(const ScratchDirectory& dir, const std::string& bright,
+                             const std::string& large)
     {
-        Dir.WriteText("orbiscope.ini", "[Orbiscope]\nBrightCat = " + bright +
+        dir.WriteText("orbiscope.ini", "[Orbiscope]\nBrightCat = " + bright +
                                            "\nLargeStarCatalogueFile = " + large + "\n");
     }
-    void UseShallowAndDeep()
+    void SetUp() override
     {
-        UseStarFiles(StarFile(Dir, kShallow, "shallow.bin"), StarFile(Dir, kDeep, "deep.bin"));
+        UseStarFiles(Dir, StarFile(Dir, kShallow, "shallow.bin"), StarFile(Dir, kDeep, "deep.bin"));
     }
 
-    Request Make(const PolarCoord& centre, double radius, double limit,
-                 const AstroTime& time = kNoon, std::uint32_t set = AstroCatalogue::STARS)
+    Request Make(double dec, double limit, const AstroTime& time = kNoon,
+                 std::uint32_t set = AstroCatalogue::STARS)
     {
-        return Request(Screen.View(centre, radius), CatalogueSet(set), time, limit);
+        return Request(Screen.View(PolarCoord(12, dec), 20.0), CatalogueSet(set), time, limit);
     }
+    bool Satisfy(Request request) { return Collector.SatisfyRequest(request, List); }
 
-    // The SAO numbers of the stars in a list, in order.
-    static std::vector<std::uint32_t> Stars(const AstroList& list)
+    // The SAO numbers of the stars in the list, in order.
+    std::vector<std::uint32_t> Stars() const
     {
         std::vector<std::uint32_t> numbers;
-        for (AstroObject* object : list) {
+        for (AstroObject* object : List) {
             if (object->GetType() == AstroObject::ObjectType::Star) {
                 numbers.push_back(static_cast<Star*>(object)->GetSAONumber());
             }
         }
         return numbers;
     }
+    void LoadUserText(const std::string& lines)
+    {
+        Dir.WriteText("user.txt", lines);
+        TextFile text;
+        ASSERT_TRUE(text.OpenForReading(Dir.File("user.txt").c_str()));
+        List.Flush(); // the old user stars go with their catalogue
+        EXPECT_TRUE(Collector.LoadStars(text));
+    }
 
     ScratchDirectory Dir;
     TestScreen Screen;
+    AstroItemCollector Collector;
     AstroList List{500, 1000};
 };
 
@@ -88,283 +93,194 @@ protected:
 
 TEST_F(AstroItemCollectorTest, ShallowestCatalogueThatReachesTheLimitIsChosen)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    ASSERT_EQ(collector.GetStarCatalogues().size(), 0u); // nothing opened before it is needed
-    StarCatalogue* shallow = collector.ChooseStarCatalogue(6.0);
-    ASSERT_EQ(collector.GetStarCatalogues().size(), 2u);
-    EXPECT_EQ(shallow, collector.GetStarCatalogues()[0]);
-    StarCatalogue* deep = collector.GetStarCatalogues()[1];
+    EXPECT_TRUE(Collector.GetStarCatalogues().empty()); // nothing opened before it is needed
+    StarCatalogue* shallow = Collector.ChooseStarCatalogue(6.0);
+    ASSERT_EQ(Collector.GetStarCatalogues().size(), 2u);
+    StarCatalogue* deep = Collector.GetStarCatalogues()[1];
+    EXPECT_EQ(shallow, Collector.GetStarCatalogues()[0]);
     EXPECT_EQ(shallow->GetMaxMagnitude(), 6.5);
     EXPECT_EQ(deep->GetMaxMagnitude(), 9.0);
 
-    EXPECT_EQ(collector.ChooseStarCatalogue(3.0), shallow);
-    EXPECT_EQ(collector.ChooseStarCatalogue(6.5), shallow);
-    EXPECT_EQ(collector.ChooseStarCatalogue(6.50005), shallow); // within 0.0001
-    EXPECT_EQ(collector.ChooseStarCatalogue(6.5002), deep);
-    EXPECT_EQ(collector.ChooseStarCatalogue(7.0), deep);
-    EXPECT_EQ(collector.ChooseStarCatalogue(12.0), deep); // none reaches: the nearest
-    EXPECT_EQ(collector.GetStarCatalogue(), shallow);
+    EXPECT_EQ(Collector.ChooseStarCatalogue(6.5), shallow);
+    EXPECT_EQ(Collector.ChooseStarCatalogue(6.50005), shallow); // within 0.0001
+    EXPECT_EQ(Collector.ChooseStarCatalogue(6.5002), deep);
+    EXPECT_EQ(Collector.ChooseStarCatalogue(7.0), deep);
+    EXPECT_EQ(Collector.ChooseStarCatalogue(12.0), deep); // none reaches: the nearest
+    EXPECT_EQ(Collector.GetStarCatalogue(), shallow);
+
+    // Requests take their stars from the choice and keep it.
+    Request bright = Make(10, 6.0);
+    EXPECT_TRUE(Collector.SatisfyRequest(bright, List));
+    EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{10}));
+    EXPECT_EQ(bright.GetStarCatalogue(), shallow);
+    Request faint = Make(10, 9.0);
+    EXPECT_TRUE(Collector.SatisfyRequest(faint, List));
+    EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{10, 20}));
+    EXPECT_EQ(faint.GetStarCatalogue(), deep);
+    EXPECT_TRUE(Satisfy(Make(10, 9.0, kNoon, AstroCatalogue::PLANETS)));
+    EXPECT_TRUE(List.IsEmpty());
 }
 
-TEST_F(AstroItemCollectorTest, ChoiceDoesNotDependOnTheOrderOfTheFiles)
+TEST_F(AstroItemCollectorTest, ChoiceIgnoresTheOrderOfTheFilesAndFilesThatAreMissing)
 {
-    UseStarFiles(StarFile(Dir, kDeep, "deep.bin"), StarFile(Dir, kShallow, "shallow.bin"));
+    ScratchDirectory reversed;
+    UseStarFiles(reversed, Dir.File("deep.bin"), Dir.File("shallow.bin"));
     AstroItemCollector collector;
-    StarCatalogue* shallow = collector.ChooseStarCatalogue(6.0);
-    ASSERT_NE(shallow, nullptr);
-    EXPECT_EQ(shallow->GetMaxMagnitude(), 6.5);
+    EXPECT_EQ(collector.ChooseStarCatalogue(6.0)->GetMaxMagnitude(), 6.5);
     EXPECT_EQ(collector.ChooseStarCatalogue(12.0)->GetMaxMagnitude(), 9.0);
 
     // Two catalogues at exactly the limit: the first keeps it.
-    ScratchDirectory other;
-    std::string a = StarFile(other, kShallow, "a.bin");
-    std::string b = StarFile(other, kShallow, "b.bin");
-    other.WriteText("orbiscope.ini",
-                    "[Orbiscope]\nBrightCat = " + a + "\nLargeStarCatalogueFile = " + b + "\n");
-    AstroItemCollector twins;
-    StarCatalogue* chosen = twins.ChooseStarCatalogue(6.5);
-    ASSERT_EQ(twins.GetStarCatalogues().size(), 2u);
-    EXPECT_EQ(chosen, twins.GetStarCatalogues()[0]);
-}
+    ScratchDirectory twins;
+    UseStarFiles(twins, Dir.File("shallow.bin"), Dir.File("shallow.bin"));
+    AstroItemCollector twin;
+    StarCatalogue* chosen = twin.ChooseStarCatalogue(6.5);
+    ASSERT_EQ(twin.GetStarCatalogues().size(), 2u);
+    EXPECT_EQ(chosen, twin.GetStarCatalogues()[0]);
 
-TEST_F(AstroItemCollectorTest, FileThatCannotBeOpenedIsNeverChosen)
-{
     MessageCapture messages;
-    UseStarFiles(Dir.File("missing.bin"), StarFile(Dir, kDeep, "deep.bin"));
-    AstroItemCollector collector;
-    StarCatalogue* chosen = collector.ChooseStarCatalogue(5.0);
-    ASSERT_NE(chosen, nullptr);
-    EXPECT_EQ(chosen->GetMaxMagnitude(), 9.0);
+    ScratchDirectory half;
+    UseStarFiles(half, half.File("missing.bin"), Dir.File("deep.bin"));
+    AstroItemCollector halfCollector;
+    EXPECT_EQ(halfCollector.ChooseStarCatalogue(5.0)->GetMaxMagnitude(), 9.0);
     EXPECT_TRUE(messages.Contains("Could not open star file:"));
 
     // With no star file at all the map still gets its answer, without stars.
-    ScratchDirectory empty;
-    empty.WriteText("orbiscope.ini", "[Orbiscope]\nBrightCat = " + empty.File("a.bin") +
-                                         "\nLargeStarCatalogueFile = " + empty.File("b.bin") +
-                                         "\n");
-    AstroItemCollector none;
-    Request request = Make(PolarCoord(10, 10), 20.0, 6.0);
-    EXPECT_TRUE(none.SatisfyRequest(request, List));
+    ScratchDirectory none;
+    UseStarFiles(none, none.File("a.bin"), none.File("b.bin"));
+    AstroItemCollector noneCollector;
+    Request request = Make(10, 6.0);
+    EXPECT_TRUE(noneCollector.SatisfyRequest(request, List));
     EXPECT_TRUE(List.IsEmpty());
-    EXPECT_EQ(none.GetStarFromSAONumber(10), nullptr);
+    EXPECT_EQ(noneCollector.GetStarFromSAONumber(10), nullptr);
 }
 
-TEST_F(AstroItemCollectorTest, RequestsTakeTheirStarsFromTheChosenCatalogue)
+TEST_F(AstroItemCollectorTest, RequestEqualToTheLastChangesNothingUnlessForced)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    Request bright = Make(PolarCoord(12, 10), 20.0, 6.0);
-    EXPECT_TRUE(collector.SatisfyRequest(bright, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{10}));
-    EXPECT_EQ(bright.GetStarCatalogue(), collector.GetStarCatalogues()[0]);
-
-    Request deep = Make(PolarCoord(12, 10), 20.0, 9.0);
-    EXPECT_TRUE(collector.SatisfyRequest(deep, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{10, 20}));
-    EXPECT_EQ(deep.GetStarCatalogue(), collector.GetStarCatalogues()[1]);
-
-    // A request without stars lists none.
-    Request planetsOnly = Make(PolarCoord(12, 10), 20.0, 9.0, kNoon, AstroCatalogue::PLANETS);
-    EXPECT_TRUE(collector.SatisfyRequest(planetsOnly, List));
-    EXPECT_TRUE(List.IsEmpty());
-}
-
-TEST_F(AstroItemCollectorTest, RequestEqualToTheLastChangesNothing)
-{
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    Request first = Make(PolarCoord(12, 10), 20.0, 9.0);
-    ASSERT_TRUE(collector.SatisfyRequest(first, List));
+    ASSERT_TRUE(Satisfy(Make(10, 9.0)));
     ASSERT_EQ(List.GetCount(), 2u);
-
     // Someone else emptied the list: an equal request still leaves it as it is.
     List.Flush();
-    Request again = Make(PolarCoord(12, 10), 20.0, 9.0);
-    EXPECT_FALSE(collector.SatisfyRequest(again, List));
+    EXPECT_FALSE(Satisfy(Make(10, 9.0)));
     EXPECT_TRUE(List.IsEmpty());
 
-    // Forcing a reload fills it anew, and flushes what was there.
+    // Forcing a reload flushes what is there and fills the list anew.
     PlacedObject stranger(PolarCoord(0, 0), 0.0, false);
     List.Add(&stranger);
-    Request forced = Make(PolarCoord(12, 10), 20.0, 9.0);
+    Request forced = Make(10, 9.0);
     forced.SetForceReload(true);
-    EXPECT_TRUE(collector.SatisfyRequest(forced, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{10, 20}));
+    EXPECT_TRUE(Satisfy(forced));
+    EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{10, 20}));
     EXPECT_EQ(List.GetCount(), 2u);
 }
 
 TEST_F(AstroItemCollectorTest, NewTimeKeepsTheStarsAndRenewsWhatMoves)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
     PlacedObject moving(PolarCoord(11, 11), 2.0, true);
     PlacedObject fixed(PolarCoord(13, 9), 2.0, false);
-    collector.AddObject(moving);
-    collector.AddObject(fixed);
-
-    Request first = Make(PolarCoord(12, 10), 20.0, 9.0);
-    ASSERT_TRUE(collector.SatisfyRequest(first, List));
+    Collector.AddObject(moving);
+    Collector.AddObject(fixed);
+    ASSERT_TRUE(Satisfy(Make(10, 9.0)));
     std::vector<AstroObject*> before(List.begin(), List.end());
     ASSERT_EQ(before.size(), 4u);
     EXPECT_EQ(before[0], &moving);
     EXPECT_EQ(before[1], &fixed);
 
-    Request later = Make(PolarCoord(12, 10), 20.0, 9.0, AstroTime(1, 1, 2000, 13.0));
-    EXPECT_TRUE(collector.SatisfyRequest(later, List));
-    std::vector<AstroObject*> after(List.begin(), List.end());
-    // The same star objects in the same places; what moves follows them.
-    ASSERT_EQ(after.size(), 4u);
-    EXPECT_EQ(after[0], &fixed);
-    EXPECT_EQ(after[1], before[2]);
-    EXPECT_EQ(after[2], before[3]);
-    EXPECT_EQ(after[3], &moving);
-    // No catalogue was asked: the time-only request chose none.
+    Request later = Make(10, 9.0, AstroTime(1, 1, 2000, 13.0));
+    EXPECT_TRUE(Collector.SatisfyRequest(later, List));
+    // The same star objects in the same places; what moves follows them. No star catalogue
+    // was asked.
+    EXPECT_EQ(std::vector<AstroObject*>(List.begin(), List.end()),
+              (std::vector<AstroObject*>{&fixed, before[2], before[3], &moving}));
     EXPECT_EQ(later.GetStarCatalogue(), nullptr);
 }
 
 TEST_F(AstroItemCollectorTest, AddedObjectsComeFirstWhenTheViewShowsThem)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
     PlacedObject inView(PolarCoord(11, 11), 2.0, false);
     PlacedObject faint(PolarCoord(11, 12), 9.5, false);
     PlacedObject elsewhere(PolarCoord(180, -50), 1.0, false);
     PlacedObject stranger(PolarCoord(11, 11), 1.0, false);
-    collector.AddObject(inView);
-    collector.AddObject(faint);
-    collector.AddObject(elsewhere);
-
-    Request request = Make(PolarCoord(12, 10), 20.0, 9.0);
-    ASSERT_TRUE(collector.SatisfyRequest(request, List));
+    Collector.AddObject(inView);
+    Collector.AddObject(faint);
+    Collector.AddObject(elsewhere);
+    Request request = Make(10, 9.0);
+    ASSERT_TRUE(Collector.SatisfyRequest(request, List));
     ASSERT_EQ(List.GetCount(), 3u);
     EXPECT_EQ(List[0], &inView);
     TPoint expected;
     request.GetView().Translate(inView.GetPosition(), expected);
     EXPECT_EQ(inView.GetDisplayPoint(), expected);
-    EXPECT_EQ(collector.GetAddedObjects().size(), 3u);
+    EXPECT_EQ(Collector.GetAddedObjects().size(), 3u);
 
-    collector.RemoveAddedObject(stranger);
-    EXPECT_EQ(collector.GetAddedObjects().size(), 3u);
-    collector.RemoveAddedObject(inView);
-    EXPECT_EQ(collector.GetAddedObjects(), (std::vector<AstroObject*>{&faint, &elsewhere}));
-    Request next = Make(PolarCoord(12, 10.5), 20.0, 9.0);
-    ASSERT_TRUE(collector.SatisfyRequest(next, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{10, 20}));
+    Collector.RemoveAddedObject(stranger);
+    EXPECT_EQ(Collector.GetAddedObjects().size(), 3u);
+    Collector.RemoveAddedObject(inView);
+    EXPECT_EQ(Collector.GetAddedObjects(), (std::vector<AstroObject*>{&faint, &elsewhere}));
+    ASSERT_TRUE(Satisfy(Make(10.5, 9.0)));
     EXPECT_EQ(List.GetCount(), 2u);
 }
 
 TEST_F(AstroItemCollectorTest, UserCatalogueServesEveryRequest)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    Request before = Make(PolarCoord(12, 10), 20.0, 9.0);
-    ASSERT_TRUE(collector.SatisfyRequest(before, List));
-
-    Dir.WriteText("mine.txt", StarLine(500, 3.0, 11.0, 9.0) + "\n" + StarLine(501, 11.0, 13, 11));
-    TextFile text;
-    ASSERT_TRUE(text.OpenForReading(Dir.File("mine.txt").c_str()));
-    List.Flush();
-    EXPECT_TRUE(collector.LoadStars(text));
-    StarCatalogue* mine = collector.GetUserCatalogue();
+    ASSERT_TRUE(Satisfy(Make(10, 9.0)));
+    LoadUserText(StarLine(500, 3.0, 11.0, 9.0) + "\n" + StarLine(501, 11.0, 13, 11) + "\n");
+    StarCatalogue* mine = Collector.GetUserCatalogue();
     ASSERT_NE(mine, nullptr);
-    EXPECT_EQ(mine->GetMaxMagnitude(), 11.0);
-
     // The same request as before is answered again, from the user's stars, at any limit.
-    Request same = Make(PolarCoord(12, 10), 20.0, 9.0);
-    EXPECT_TRUE(collector.SatisfyRequest(same, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{500}));
-    EXPECT_EQ(collector.ChooseStarCatalogue(1.0), mine);
-    EXPECT_EQ(collector.GetStarCatalogue(), mine);
+    EXPECT_TRUE(Satisfy(Make(10, 9.0)));
+    EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{500}));
+    EXPECT_EQ(Collector.ChooseStarCatalogue(1.0), mine);
+    EXPECT_EQ(Collector.GetStarCatalogue(), mine);
 
     // A second text replaces the first; a star file joins beside it.
-    Dir.WriteText("other.txt", StarLine(600, 2.0, 12.0, 10.0));
-    TextFile other;
-    ASSERT_TRUE(other.OpenForReading(Dir.File("other.txt").c_str()));
+    LoadUserText(StarLine(600, 2.0, 12.0, 10.0));
+    EXPECT_EQ(Collector.GetStarCatalogues().size(), 3u); // two files, one user catalogue
+    EXPECT_TRUE(Satisfy(Make(10, 9.0)));
+    EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{600}));
     List.Flush();
-    EXPECT_TRUE(collector.LoadStars(other));
-    // The two star files and one user catalogue.
-    EXPECT_EQ(collector.GetStarCatalogues().size(), 3u);
-    Request third = Make(PolarCoord(12, 10), 20.0, 9.0);
-    EXPECT_TRUE(collector.SatisfyRequest(third, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{600}));
-
-    List.Flush();
-    EXPECT_TRUE(collector.LoadStarsFromBinaryFile(Dir.File("deep.bin")));
-    EXPECT_EQ(collector.GetStarCatalogues().size(), 4u);
-    Request fourth = Make(PolarCoord(12, 10), 20.0, 2.0);
-    EXPECT_TRUE(collector.SatisfyRequest(fourth, List));
-    EXPECT_EQ(Stars(List), (std::vector<std::uint32_t>{10}));
+    EXPECT_TRUE(Collector.LoadStarsFromBinaryFile(Dir.File("deep.bin")));
+    EXPECT_EQ(Collector.GetStarCatalogues().size(), 4u);
+    EXPECT_TRUE(Satisfy(Make(10, 2.0)));
+    EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{10}));
 }
 
-TEST_F(AstroItemCollectorTest, LookupByNumberTriesTheSmallFileFirst)
+TEST_F(AstroItemCollectorTest, LookupByNumberTriesTheUserTheSmallThenTheLargeFile)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    Star* ten = collector.GetStarFromSAONumber(10);
+    Star* ten = Collector.GetStarFromSAONumber(10);
     ASSERT_NE(ten, nullptr);
     EXPECT_EQ(ten->GetListName(), "Ten");
     EXPECT_EQ(ten->GetReferenceCount(), 1);
     ten->ReleaseReference();
-    // The large file was not read.
-    EXPECT_TRUE(Resident(collector.GetStarCatalogues()[1]->GetSegments()).empty());
+    EXPECT_TRUE(Resident(Collector.GetStarCatalogues()[1]->GetSegments()).empty());
+    EXPECT_EQ(Collector.GetStarFromSAONumber(12345), nullptr);
 
-    Star* deepOnly = collector.GetStarFromSAONumber(21);
-    ASSERT_NE(deepOnly, nullptr);
-    EXPECT_EQ(deepOnly->GetMagnitude(), 9.0);
-    deepOnly->ReleaseReference();
-    EXPECT_EQ(collector.GetStarFromSAONumber(12345), nullptr);
-
-    // The user's stars come first.
-    Dir.WriteText("mine.txt", StarLine(10, 4.0, 50.0, 50.0));
-    TextFile text;
-    ASSERT_TRUE(text.OpenForReading(Dir.File("mine.txt").c_str()));
-    collector.LoadStars(text);
-    Star* mine = collector.GetStarFromSAONumber(10);
+    LoadUserText(StarLine(10, 4.0, 50.0, 50.0));
+    std::unique_ptr<Star> mine(Collector.GetStarFromSAONumber(10));
     ASSERT_NE(mine, nullptr);
     EXPECT_EQ(mine->GetMagnitude(), 4.0);
-    mine->ReleaseReference();
-    Star* stillThere = collector.GetStarFromSAONumber(21);
-    ASSERT_NE(stillThere, nullptr);
-    stillThere->ReleaseReference();
+    std::unique_ptr<Star> deepOnly(Collector.GetStarFromSAONumber(21));
+    ASSERT_NE(deepOnly, nullptr);
+    EXPECT_EQ(deepOnly->GetMagnitude(), 9.0);
 }
 
-TEST_F(AstroItemCollectorTest, BinaryDumpNeedsAUserCatalogue)
+TEST_F(AstroItemCollectorTest, DumpsWriteTheUserAndTheLookupCatalogue)
 {
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    EXPECT_FALSE(collector.DumpStarsBinary(Dir.File("out.bin")));
-    EXPECT_TRUE(Dir.ReadBytes("out.bin").empty());
-
-    TextCatalogue(Dir, kDeep, "deep.txt");
-    TextFile text;
-    ASSERT_TRUE(text.OpenForReading(Dir.File("deep.txt").c_str()));
-    ASSERT_TRUE(collector.LoadStars(text));
-    ASSERT_TRUE(collector.DumpStarsBinary(Dir.File("out.bin")));
-    EXPECT_EQ(Dir.ReadBytes("out.bin"), Dir.ReadBytes("deep.bin"));
-}
-
-TEST_F(AstroItemCollectorTest, TextDumpWritesTheLookupCatalogue)
-{
-    UseShallowAndDeep();
-    AstroItemCollector collector;
-    ASSERT_TRUE(collector.DumpStarsText(Dir.File("out.txt")));
+    // Text: the catalogue of magnitude 5, the shallow one.
+    ASSERT_TRUE(Collector.DumpStarsText(Dir.File("out.txt")));
     TextFile text;
     ASSERT_TRUE(text.OpenForReading(Dir.File("out.txt").c_str()));
     StarCatalogue again;
     ASSERT_TRUE(again.LoadStars(text));
-    // The catalogue for magnitude 5 is the shallow one.
     EXPECT_EQ(again.GetMaxMagnitude(), 6.5);
-    std::unique_ptr<Star> eleven(again.GetStarFromSAONumber(11));
-    EXPECT_NE(eleven, nullptr);
-}
 
-TEST_F(AstroItemCollectorTest, ObserverIsTheEarth)
-{
-    AstroItemCollector collector;
-    ASSERT_NE(collector.GetOrigin(), nullptr);
-    // The Earth knows sidereal time; the bare body does not.
-    collector.GetOrigin()->SetTime(AstroTime(1, 1, 2000, 12.0));
-    EXPECT_NEAR(collector.GetOrigin()->GetLocalSiderealTime(LatLong()).GetDegrees(),
-                18.697374558 * 15.0, 1e-6);
+    // Binary: only a user's catalogue.
+    EXPECT_FALSE(Collector.DumpStarsBinary(Dir.File("out.bin")));
+    EXPECT_TRUE(Dir.ReadBytes("out.bin").empty());
+    std::string deepText;
+    for (const std::string& line : kDeep) {
+        deepText += line + "\n";
+    }
+    LoadUserText(deepText);
+    ASSERT_TRUE(Collector.DumpStarsBinary(Dir.File("out.bin")));
+    EXPECT_EQ(Dir.ReadBytes("out.bin"), Dir.ReadBytes("deep.bin"));
 }

@@ -90,28 +90,13 @@ TEST(SegmentTableTest, StarOnABorderGoesToTheEarlierSegment)
     EXPECT_EQ(SegmentOf(table, 6), 56); // zone 6, slice 0 - 45
     EXPECT_EQ(SegmentOf(table, 7), 7);  // just short of the seam: the last slice
 
+    // A star no segment holds is left out (and deleted).
+    EXPECT_FALSE(table.AddStar(std::make_unique<Star>(9, 1.0, PolarCoord(10.0, 95.0))));
+    EXPECT_EQ(SegmentOf(table, 9), -1);
+
     // The byte size grows by each record; the file's count is left to the dump.
     EXPECT_EQ(table[8].GetByteSize(), 3 * 29);
     EXPECT_EQ(table[8].GetStarCount(), 0);
-}
-
-TEST(SegmentTableTest, StarNoSegmentHoldsIsLeftOut)
-{
-    SegmentTable table;
-    table.BuildEmptySegments();
-    bool deleted = false;
-    class Watched : public Star
-    {
-    public:
-        Watched(bool& flag) : Star(9, 1.0, PolarCoord(10.0, 95.0)), rFlag(flag) {}
-        ~Watched() override { rFlag = true; }
-
-    private:
-        bool& rFlag;
-    };
-    EXPECT_FALSE(table.AddStar(std::make_unique<Watched>(deleted)));
-    EXPECT_TRUE(deleted);
-    EXPECT_EQ(SegmentOf(table, 9), -1);
 }
 
 TEST(SegmentTableTest, ViewAcrossRightAscensionZeroMakesSixSegmentsResident)
@@ -183,53 +168,30 @@ TEST(SegmentTableTest, TextLoadStopsAtTheFirstLineThatIsNotAStar)
 {
     ScratchDirectory dir;
     MessageCapture messages;
-    dir.WriteText("bad.txt", StarLine(1, 2.0, 10.0, 10.0) + "\n\n   \n" +
-                                 StarLine(2, 4.5, 20.0, 10.0) + "\n12345\n" +
-                                 StarLine(3, 9.0, 30.0, 10.0) + "\n");
+    // Declination exactly 50 and -20 and right ascension exactly 2 hours through the text
+    // reader, blank lines, then a line with a number alone.
+    dir.WriteText("bad.txt", "1,5.0,7,0,0,+,50,0,0,0,0,0\n\n   \n2,4.5,7,0,0,-,20,0,0,0,0,0\n"
+                             "3,5.0,2,0,0,+,35,0,0,0,0,0\n12345\n" +
+                                 StarLine(4, 9.0, 30.0, 10.0) + "\n");
     TextFile text;
     ASSERT_TRUE(text.OpenForReading(dir.File("bad.txt").c_str()));
     SegmentTable table;
     double maxMagnitude = 0.0;
     EXPECT_FALSE(table.Load(text, maxMagnitude));
-    EXPECT_TRUE(messages.Contains("Star data at line: 5 is invalid."));
-    // Blank lines are passed over; the stars before the bad line stay, the one after is not read.
-    EXPECT_NE(SegmentOf(table, 1), -1);
-    EXPECT_NE(SegmentOf(table, 2), -1);
-    EXPECT_EQ(SegmentOf(table, 3), -1);
-    EXPECT_EQ(maxMagnitude, 4.5);
-    EXPECT_FALSE(table.GetUnloadWhenOutOfView());
-}
-
-TEST(SegmentTableTest, EmptyTextGivesSixtyFourEmptySegments)
-{
-    ScratchDirectory dir;
-    dir.WriteText("empty.txt", "");
-    TextFile text;
-    ASSERT_TRUE(text.OpenForReading(dir.File("empty.txt").c_str()));
-    SegmentTable table;
-    double maxMagnitude = 0.0;
-    EXPECT_TRUE(table.Load(text, maxMagnitude));
-    EXPECT_EQ(maxMagnitude, -20.0);
-    ASSERT_EQ(table.size(), 64u);
-    for (const Segment& segment : table) {
-        EXPECT_EQ(segment.GetByteSize(), 0);
-        EXPECT_FALSE(segment.IsLoaded());
-    }
-}
-
-TEST(SegmentTableTest, TextStarsOnBordersLandAsTheirNumbersSay)
-{
-    // Declination exactly 50 and -20, and right ascension exactly 2 hours, through the text
-    // reader.
-    ScratchDirectory dir;
-    dir.WriteText("borders.txt", "1,5.0,7,0,0,+,50,0,0,0,0,0\n2,5.0,7,0,0,-,20,0,0,0,0,0\n"
-                                 "3,5.0,2,0,0,+,35,0,0,0,0,0\n");
-    TextFile text;
-    ASSERT_TRUE(text.OpenForReading(dir.File("borders.txt").c_str()));
-    SegmentTable table;
-    double maxMagnitude = 0.0;
-    ASSERT_TRUE(table.Load(text, maxMagnitude));
+    EXPECT_TRUE(messages.Contains("Star data at line: 6 is invalid."));
     EXPECT_EQ(SegmentOf(table, 1), 2);  // zone 1, 90 - 135
     EXPECT_EQ(SegmentOf(table, 2), 35); // zone 4, 90 - 120
     EXPECT_EQ(SegmentOf(table, 3), 8);  // zone 2, 0 - 30
+    EXPECT_EQ(SegmentOf(table, 4), -1); // after the bad line
+    EXPECT_EQ(maxMagnitude, 5.0);
+    EXPECT_FALSE(table.GetUnloadWhenOutOfView());
+
+    // An empty text gives 64 empty segments and the magnitude of none.
+    dir.WriteText("empty.txt", "");
+    TextFile empty;
+    ASSERT_TRUE(empty.OpenForReading(dir.File("empty.txt").c_str()));
+    EXPECT_TRUE(table.Load(empty, maxMagnitude));
+    EXPECT_EQ(maxMagnitude, -20.0);
+    ASSERT_EQ(table.size(), 64u);
+    EXPECT_TRUE(Resident(table).empty());
 }
