@@ -16,6 +16,7 @@
 #include "projection/FixedOrientationInfo.h"
 #include "skyview/DrawTimeLimit.h"
 #include "skyview/StarDisplayParameters.h"
+#include "solar/SolarSystemObject.h"
 #include "state/StateContainer.h"
 
 namespace {
@@ -53,8 +54,8 @@ MapWindow::MapWindow(TWindow* parent)
     SetBkgndColor(TColor(0, 0, 0));
     if (!pOrientation) {
         pOrientation = std::make_unique<FixedOrientationInfo>(
-            nullptr, kDefaultCentre, FixedOrientationInfo::NorthUpZenith(kDefaultCentre),
-            kDefaultFieldRadius);
+            Collector.GetOrigin(), kDefaultCentre,
+            FixedOrientationInfo::NorthUpZenith(kDefaultCentre), kDefaultFieldRadius);
     }
     bMilitaryTime = HostProfile().GetBool("Orbiscope", "MilitaryTime", false);
 }
@@ -185,7 +186,7 @@ void MapWindow::DrawAll()
     // A scrolling frame must be done before the scroll timer fires again.
     DrawTimeLimit limit;
     if (bScrolling) {
-        limit.Start(DrawTimeLimit::ForScrollInterval(nScrollInterval));
+        limit.Start(DrawTimeLimit::ForScrollInterval(ScrollInfo.GetInterval()));
     }
 
     // A map that was given no time opens at the present moment.
@@ -199,6 +200,9 @@ void MapWindow::DrawAll()
     // The time update.
     const bool timeChanged = bTimeDirty;
     if (timeChanged) {
+        if (SolarSystemObject* origin = Collector.GetOrigin()) {
+            origin->SetTime(Time);
+        }
         bTimeDirty = false;
     }
 
@@ -282,12 +286,31 @@ bool MapWindow::IsAnythingDirty() const
     return bTransformationDirty || bTimeDirty || bGridDirty || bStatusDirty;
 }
 
-std::int32_t MapWindow::LoadVisibleObjects(Transformation&)
+std::int32_t MapWindow::LoadVisibleObjects(Transformation& t)
 {
-    // The old list goes, and with it the object under the mouse. The map has no catalogues
-    // yet, so no request can change the list.
+    // The old list goes, and with it the object under the mouse.
     pHilitedObject = nullptr;
-    return 0;
+
+    CatalogueSet catalogues;
+    catalogues.Add(AstroCatalogue::STARS);
+    if (bShowPlanets) {
+        catalogues.Add(AstroCatalogue::PLANETS);
+    }
+    if (bShowMessier) {
+        catalogues.Add(AstroCatalogue::MESSIER_OBJECTS);
+    }
+    if (bShowComets) {
+        catalogues.Add(AstroCatalogue::COMETS);
+    }
+
+    Request request(t, catalogues, Time, Display.GetLimitingMagnitude());
+    request.SetScrolling(bScrolling);
+    if (bScrolling) {
+        request.SetScrollInfo(ScrollInfo);
+    }
+    request.SetForceReload(bForceReload);
+    bForceReload = false;
+    return Collector.SatisfyRequest(request, aVisibleObjects) ? 1 : 0;
 }
 
 void MapWindow::DrawGrid(TDC& dc, const TRect&, Transformation& t)
@@ -489,6 +512,26 @@ LRESULT MapWindow::EvShowStartingObject(WPARAM, LPARAM)
 void MapWindow::EvTimer(UINT)
 {
     // The map runs no timers of its own yet.
+}
+
+// Catalogues the user loads.
+
+bool MapWindow::LoadStars(TextFile& text)
+{
+    aVisibleObjects.Flush();
+    bool loaded = Collector.LoadStars(text);
+    MarkAllDirty();
+    InvalidateView();
+    return loaded;
+}
+
+bool MapWindow::LoadStarsFromBinaryFile(const std::string& name)
+{
+    aVisibleObjects.Flush();
+    bool loaded = Collector.LoadStarsFromBinaryFile(name);
+    MarkAllDirty();
+    InvalidateView();
+    return loaded;
 }
 
 // Changes of the view.
@@ -720,7 +763,7 @@ void MapWindow::RestoreDefaultState(StateContainer& sc)
 void MapWindow::ReadOrientation(StateContainer& sc, int)
 {
     // Every saved kind comes back as a view fixed on the stars: the map has no other kind.
-    pOrientation = std::make_unique<FixedOrientationInfo>(nullptr);
+    pOrientation = std::make_unique<FixedOrientationInfo>(Collector.GetOrigin());
     sc >> AstroKey("Orientation") >> *pOrientation;
 }
 

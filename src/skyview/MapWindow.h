@@ -22,6 +22,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogues/AstroItemCollector.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/ReferenceArray.h"
 #include "coords/PolarCoord.h"
@@ -29,6 +30,7 @@
 #include "platform/TRect.h"
 #include "platform/TResId.h"
 #include "platform/TWindow.h"
+#include "projection/AstroScrollInfo.h"
 #include "projection/OrientationInfo.h"
 #include "projection/Transformation.h"
 #include "skyview/DisplayParameters.h"
@@ -41,6 +43,7 @@ class AstroObject;
 class StateContainer;
 class StarDisplayParameters;
 class TMemoryDC;
+class TextFile;
 
 class MapWindow : public TWindow
 {
@@ -113,6 +116,11 @@ public:
     // Takes the view of another map: display, a copy of its orientation, time and grid.
     void Copy(MapWindow& other);
 
+    // A star catalogue of the user's, from text or from a star file, which every view uses
+    // from then on; the result is the collector's.
+    bool LoadStars(TextFile& text);
+    bool LoadStarsFromBinaryFile(const std::string& name);
+
     // Printing: draws the view at once into the surface and rectangle of `parameters`, and
     // keeps the screen's parameters until StopPrinting; meanwhile paints do nothing.
     void StartPrinting(DisplayParameters& parameters);
@@ -153,6 +161,8 @@ public:
     // The grid's polylines in screen points; a point with x kPenUpMarker lifts the pen.
     const ReferenceArray<std::vector<TPoint>>& GetGridLines() const { return aGridLines; }
     const AstroList& GetVisibleObjects() const { return aVisibleObjects; }
+    // The catalogues.
+    AstroItemCollector& GetCollector() { return Collector; }
     // The off-screen context and bitmap; null until the first paint and after a resize.
     const TMemoryDC* GetMemoryDC() const { return pMemoryDC.get(); }
     HBITMAP GetDrawBitmap() const { return hDrawBitmap; }
@@ -181,6 +191,7 @@ private:
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};
+    AstroItemCollector Collector;
     bool bGridDirty = true;
     TimeZone Zone;
     DisplayParameters Display;
@@ -211,8 +222,7 @@ private:
     std::string StatusText;
     TRect StatusRect;
     bool bScrolling = false;
-    // The scroll timer's pace in milliseconds.
-    std::int32_t nScrollInterval = 350;
+    AstroScrollInfo ScrollInfo;
     bool bShowMessier = false;
     bool bShowComets = false;
     bool bForceReload = false;

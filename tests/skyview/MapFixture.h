@@ -56,15 +56,22 @@ protected:
         HeadlessTest::TearDown();
     }
 
-    // A map of that size on the screen, painted once.
-    MapWindow& Open(int width, int height)
+    // A map of that size on the screen, painted once. Unless `withStars`, no star is bright
+    // enough to be shown, so that the pixels a test looks at are the sky's own.
+    MapWindow& Open(int width, int height, bool withStars = false)
     {
         pHost = std::make_unique<MapHost>(width, height);
-        pHost->Create();
+        MapWindow& map = *pHost->pMap;
         // The time zone of the machine running the tests must not show in the status line.
-        pHost->pMap->SetTimeZone(TimeZone());
+        map.SetTimeZone(TimeZone());
+        if (!withStars) {
+            StarDisplayParameters none = map.GetDisplayParameters();
+            none.SetLimitingMagnitude(-30.0);
+            map.SetStarDisplayParameters(none);
+        }
+        pHost->Create();
         Pump();
-        return *pHost->pMap;
+        return map;
     }
 
     MapWindow& Map() { return *pHost->pMap; }

@@ -126,6 +126,29 @@ TEST_F(MapWindowTest, WithTheGridHiddenEveryPaintDrawsAgain)
     EXPECT_EQ(pHost->nFieldChanges, 1);
 }
 
+TEST_F(MapWindowTest, TheStarsOfTheViewAreAskedForOnceUntilTheViewChanges)
+{
+    MapWindow& map = Open(200, 150, true);
+    const std::size_t shown = map.GetVisibleObjects().GetCount();
+    EXPECT_GT(shown, 20u) << "Orion down to magnitude 6";
+    Transformation view = *map.GetTransformation();
+    EXPECT_EQ(map.LoadVisibleObjects(view), 0) << "the same request again";
+
+    // Every paint draws while the grid is hidden, yet the list stays as it was.
+    Repaint();
+    EXPECT_EQ(map.GetVisibleObjects().GetCount(), shown);
+
+    StarDisplayParameters brighter = map.GetDisplayParameters();
+    brighter.SetLimitingMagnitude(3.0);
+    map.SetStarDisplayParameters(brighter);
+    Pump();
+    EXPECT_LT(map.GetVisibleObjects().GetCount(), shown);
+    EXPECT_GT(map.GetVisibleObjects().GetCount(), 3u);
+    for (const AstroObject* star : map.GetVisibleObjects()) {
+        EXPECT_LE(star->GetMagnitude(), 3.0);
+    }
+}
+
 TEST_F(MapWindowTest, TheParentHearsOfEveryNewProjection)
 {
     MapWindow& map = Open(120, 80);
