@@ -1,26 +1,483 @@
 // orbiscope: the reference host of the planetarium component.
+//
+//   orbiscope [COMMAND]                  the planetarium in a window on the display
+//   orbiscope render --out FILE [...]    one picture of the sky, made without a display
+//   orbiscope --help | --version
+//
+// The program links nothing of the component. It loads liborbiscope.so at run time (the file
+// named by ORBISCOPE_LIBRARY, else the one beside the program, else the one of the build
+// tree), looks up the entry `orbiscope` and the host kit, makes a frame window, hands the
+// entry the frame and the command string, and runs the message loop; or, for `render`, lets
+// one frame be drawn on the headless desktop and writes the map to a PNG file.
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "shell/OrbiscopeEntry.h"
+#include "shell/ReferenceHostKit.h"
 
 namespace {
 
-void PrintUsage()
+constexpr int kExitFailure = 1;
+constexpr int kExitUsage = 2;
+
+// The window on the display, and the default picture.
+constexpr int kFrameWidth = 1024;
+constexpr int kFrameHeight = 768;
+constexpr int kLargestSide = 8192;
+
+void PrintUsage(std::FILE* out)
 {
-    std::printf("orbiscope %s - an interactive sky map\n\n"
-                "usage:\n"
-                "  orbiscope --version   print the version\n"
-                "  orbiscope --help      print this text\n",
-                ORBISCOPE_VERSION);
+    std::fprintf(
+        out,
+        "orbiscope %s - an interactive sky map\n"
+        "\n"
+        "usage:\n"
+        "  orbiscope [COMMAND]\n"
+        "      Opens the planetarium in a window on the display. COMMAND is a command\n"
+        "      string for the component as a host hands it over, such as a bookmark's\n"
+        "      \"FullState=1 AstroNoxWindow=<...>\".\n"
+        "\n"
+        "  orbiscope render --out FILE [options] [COMMAND]\n"
+        "      Draws one frame of the sky without a display and writes it to FILE as a PNG\n"
+        "      picture. COMMAND is handed to the component first; the options apply after\n"
+        "      it.\n"
+        "        --out FILE        the picture to write (required)\n"
+        "        --size WxH        its size in pixels (default %dx%d)\n"
+        "        --time \"YYYY-MM-DD HH:MM[:SS]\"\n"
+        "                          the moment shown, in Universal Time (default: now)\n"
+        "        --center RA,DEC   look at RA and Dec, in degrees, with north up (default:\n"
+        "                          the map's own view, Orion at RA 84, Dec 0)\n"
+        "        --radius DEG      degrees from the centre to the nearer edge, above 0 and\n"
+        "                          at most 90 (default 45)\n"
+        "        --grid            show the grid of right ascension and declination\n"
+        "        --limit MAG       show stars down to this magnitude (default 6)\n"
+        "\n"
+        "  orbiscope --help       this text\n"
+        "  orbiscope --version    the version\n"
+        "\n"
+        "Without a display (neither DISPLAY nor WAYLAND_DISPLAY set) use render, e.g.\n"
+        "  orbiscope render --out sky.png --center 0,90 --radius 60 --grid\n"
+        "\n"
+        "The component is loaded from liborbiscope.so beside the program, or from the file\n"
+        "that ORBISCOPE_LIBRARY names.\n",
+        ORBISCOPE_VERSION, kFrameWidth, kFrameHeight);
+}
+
+// The library and what the program looks up in it.
+struct Component
+{
+    OrbiscopeEntry Entry = nullptr;
+    const OrbiscopeHostKit* Kit = nullptr;
+};
+
+std::string ProgramDirectory()
+{
+    std::vector<char> path(4096);
+    ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size() - 1);
+    if (length <= 0) {
+        return std::string();
+    }
+    std::string self(path.data(), std::size_t(length));
+    std::size_t slash = self.rfind('/');
+    return slash == std::string::npos ? std::string() : self.substr(0, slash);
+}
+
+std::optional<Component> LoadComponent(std::string& error)
+{
+    std::vector<std::string> candidates;
+    if (const char* named = std::getenv("ORBISCOPE_LIBRARY"); named && *named) {
+        candidates.push_back(named);
+    } else {
+        std::string beside = ProgramDirectory();
+        if (!beside.empty()) {
+            candidates.push_back(beside + "/liborbiscope.so");
+        }
+        candidates.push_back(ORBISCOPE_BUILD_LIBRARY);
+    }
+    for (const std::string& path : candidates) {
+        // The library stays loaded for the life of the program.
+        void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+        if (!library) {
+            error = ::dlerror();
+            continue;
+        }
+        Component component;
+        component.Entry = reinterpret_cast<OrbiscopeEntry>(::dlsym(library, "orbiscope"));
+        auto getKit =
+            reinterpret_cast<OrbiscopeHostKitGetter>(::dlsym(library, "orbiscope_host_kit"));
+        component.Kit = getKit ? getKit() : nullptr;
+        if (!component.Entry || !component.Kit ||
+            component.Kit->nVersion != kOrbiscopeHostKitVersion) {
+            error = path + " is not a planetarium library of this version";
+            continue;
+        }
+        return component;
+    }
+    return std::nullopt;
+}
+
+HWND ToHandle(std::uint32_t handle)
+{
+    return reinterpret_cast<HWND>(std::uintptr_t(handle));
+}
+
+std::string Join(const std::vector<std::string>& words)
+{
+    std::string text;
+    for (const std::string& word : words) {
+        text += (text.empty() ? "" : " ") + word;
+    }
+    return text;
+}
+
+// Option values.
+
+bool ParseNumber(const std::string& text, double& value)
+{
+    if (text.empty()) {
+        return false;
+    }
+    char* end = nullptr;
+    errno = 0;
+    value = std::strtod(text.c_str(), &end);
+    return errno == 0 && end == text.c_str() + text.size() && std::isfinite(value);
+}
+
+bool ParseInteger(const std::string& text, long& value)
+{
+    if (text.empty()) {
+        return false;
+    }
+    char* end = nullptr;
+    errno = 0;
+    value = std::strtol(text.c_str(), &end, 10);
+    return errno == 0 && end == text.c_str() + text.size();
+}
+
+bool ParseSize(const std::string& text, int& width, int& height)
+{
+    std::size_t x = text.find_first_of("xX");
+    long w = 0;
+    long h = 0;
+    if (x == std::string::npos || !ParseInteger(text.substr(0, x), w) ||
+        !ParseInteger(text.substr(x + 1), h) || w < 1 || h < 1 || w > kLargestSide ||
+        h > kLargestSide) {
+        return false;
+    }
+    width = int(w);
+    height = int(h);
+    return true;
+}
+
+bool IsLeapYear(long year)
+{
+    // The map's calendar is the Julian one before 1582 and the Gregorian one after.
+    if (year < 1582) {
+        return year % 4 == 0;
+    }
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
+
+int DaysInMonth(long year, int month)
+{
+    static const int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    return month == 2 && IsLeapYear(year) ? 29 : days[month - 1];
+}
+
+// "YYYY-MM-DD HH:MM[:SS]" (a year may carry a sign, seconds a fraction; a "T" may stand for
+// the blank).
+bool ParseTime(const std::string& text, OrbiscopeView& view)
+{
+    std::size_t blank = text.find_first_of(" T");
+    if (blank == std::string::npos) {
+        return false;
+    }
+    const std::string date = text.substr(0, blank);
+    const std::string clock = text.substr(blank + 1);
+    // The year's own sign is not a separator.
+    std::size_t first = date.find('-', 1);
+    std::size_t second = first == std::string::npos ? first : date.find('-', first + 1);
+    if (second == std::string::npos) {
+        return false;
+    }
+    long year = 0;
+    long month = 0;
+    long day = 0;
+    if (!ParseInteger(date.substr(0, first), year) ||
+        !ParseInteger(date.substr(first + 1, second - first - 1), month) ||
+        !ParseInteger(date.substr(second + 1), day) || month < 1 || month > 12 || day < 1 ||
+        day > DaysInMonth(year, int(month)) || year < -4712 || year > 9999) {
+        return false;
+    }
+    std::size_t colon = clock.find(':');
+    if (colon == std::string::npos) {
+        return false;
+    }
+    std::size_t colon2 = clock.find(':', colon + 1);
+    long hour = 0;
+    long minute = 0;
+    double second2 = 0.0;
+    if (!ParseInteger(clock.substr(0, colon), hour) ||
+        !ParseInteger(clock.substr(colon + 1, colon2 == std::string::npos ? std::string::npos
+                                                                          : colon2 - colon - 1),
+                      minute) ||
+        (colon2 != std::string::npos && !ParseNumber(clock.substr(colon2 + 1), second2)) ||
+        hour < 0 || hour > 23 || minute < 0 || minute > 59 || second2 < 0.0 || second2 >= 60.0) {
+        return false;
+    }
+    view.bTime = 1;
+    view.nYear = int(year);
+    view.nMonth = int(month);
+    view.nDay = int(day);
+    view.nHour = int(hour);
+    view.nMinute = int(minute);
+    view.Second = second2;
+    return true;
+}
+
+bool ParseCenter(const std::string& text, OrbiscopeView& view)
+{
+    std::size_t comma = text.find(',');
+    double ra = 0.0;
+    double dec = 0.0;
+    if (comma == std::string::npos || !ParseNumber(text.substr(0, comma), ra) ||
+        !ParseNumber(text.substr(comma + 1), dec) || dec < -90.0 || dec > 90.0) {
+        return false;
+    }
+    view.bCenter = 1;
+    view.RA = ra;
+    view.Dec = dec;
+    return true;
+}
+
+struct RenderRequest
+{
+    std::string Out;
+    int Width = kFrameWidth;
+    int Height = kFrameHeight;
+    OrbiscopeView View{};
+    std::string Command;
+};
+
+// Reads the options of `render`; false with a message for the user on a bad one.
+bool ParseRender(const std::vector<std::string>& args, RenderRequest& request, std::string& error)
+{
+    std::vector<std::string> words;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        std::string name = args[i];
+        std::optional<std::string> inlineValue;
+        if (name.rfind("--", 0) == 0 && name.find('=') != std::string::npos) {
+            inlineValue = name.substr(name.find('=') + 1);
+            name = name.substr(0, name.find('='));
+        }
+        auto value = [&](std::string& out) {
+            if (inlineValue) {
+                out = *inlineValue;
+                return true;
+            }
+            if (i + 1 >= args.size()) {
+                error = name + " needs a value";
+                return false;
+            }
+            out = args[++i];
+            return true;
+        };
+        std::string text;
+        if (name == "--out") {
+            if (!value(request.Out)) {
+                return false;
+            }
+            if (request.Out.empty()) {
+                error = "--out needs a file name";
+                return false;
+            }
+        } else if (name == "--size") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParseSize(text, request.Width, request.Height)) {
+                error = "--size takes WIDTHxHEIGHT, each 1 to " + std::to_string(kLargestSide) +
+                        " pixels, not \"" + text + "\"";
+                return false;
+            }
+        } else if (name == "--time") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParseTime(text, request.View)) {
+                error = "--time takes a real date and time of day as \"YYYY-MM-DD HH:MM\" or "
+                        "\"YYYY-MM-DD HH:MM:SS\", not \"" +
+                        text + "\"";
+                return false;
+            }
+        } else if (name == "--center") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParseCenter(text, request.View)) {
+                error = "--center takes RA,DEC in degrees with DEC from -90 to 90, not \"" + text +
+                        "\"";
+                return false;
+            }
+        } else if (name == "--radius") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParseNumber(text, request.View.Radius) || request.View.Radius <= 0.0 ||
+                request.View.Radius > 90.0) {
+                error = "--radius takes degrees above 0 and at most 90, not \"" + text + "\"";
+                return false;
+            }
+            request.View.bRadius = 1;
+        } else if (name == "--limit") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParseNumber(text, request.View.LimitingMagnitude)) {
+                error = "--limit takes a magnitude, not \"" + text + "\"";
+                return false;
+            }
+            request.View.bLimit = 1;
+        } else if (name == "--grid") {
+            if (inlineValue) {
+                error = "--grid takes no value";
+                return false;
+            }
+            request.View.bGrid = 1;
+        } else if (name.rfind("--", 0) == 0) {
+            error = "unknown option " + name;
+            return false;
+        } else {
+            words.push_back(args[i]);
+        }
+    }
+    if (request.Out.empty()) {
+        error = "render needs --out FILE, the picture to write";
+        return false;
+    }
+    request.Command = Join(words);
+    return true;
+}
+
+int Render(const std::vector<std::string>& args)
+{
+    RenderRequest request;
+    std::string error;
+    if (!ParseRender(args, request, error)) {
+        std::fprintf(stderr, "orbiscope render: %s (see orbiscope --help)\n", error.c_str());
+        return kExitUsage;
+    }
+    std::optional<Component> component = LoadComponent(error);
+    if (!component) {
+        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
+        return kExitFailure;
+    }
+    const OrbiscopeHostKit& kit = *component->Kit;
+    char reason[256] = {};
+    kit.OpenDesktop(0, reason, sizeof reason);
+
+    // The frame is as much larger than the picture as the bezel round the map takes.
+    const int inset = kit.GetMapInset();
+    const std::uint32_t frame =
+        kit.CreateFrame("Orbiscope", request.Width + 2 * inset, request.Height + 2 * inset);
+    const std::uint32_t map =
+        frame ? component->Entry(ToHandle(frame), request.Command.c_str()) : 0;
+    int status = 0;
+    if (!map) {
+        std::fprintf(stderr, "orbiscope render: the planetarium did not start\n");
+        status = kExitFailure;
+    } else {
+        kit.SetView(map, &request.View);
+        if (!kit.SaveMapPicture(map, request.Out.c_str())) {
+            std::fprintf(stderr, "orbiscope render: cannot write %s\n", request.Out.c_str());
+            status = kExitFailure;
+        } else {
+            std::printf("orbiscope: wrote %s (%dx%d)\n", request.Out.c_str(), request.Width,
+                        request.Height);
+        }
+    }
+    if (frame) {
+        kit.DestroyFrame(frame);
+    }
+    return status;
+}
+
+bool HasDisplay()
+{
+    const char* x = std::getenv("DISPLAY");
+    const char* wayland = std::getenv("WAYLAND_DISPLAY");
+    return (x && *x) || (wayland && *wayland);
+}
+
+int RunOnDisplay(const std::vector<std::string>& args)
+{
+    if (!HasDisplay()) {
+        std::fprintf(stderr,
+                     "orbiscope: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is "
+                     "set).\n"
+                     "To draw the sky into a picture instead:\n"
+                     "  orbiscope render --out sky.png\n"
+                     "See orbiscope --help for the view options.\n");
+        return kExitFailure;
+    }
+    std::string error;
+    std::optional<Component> component = LoadComponent(error);
+    if (!component) {
+        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
+        return kExitFailure;
+    }
+    const OrbiscopeHostKit& kit = *component->Kit;
+    char reason[256] = {};
+    if (!kit.OpenDesktop(1, reason, sizeof reason)) {
+        std::fprintf(stderr,
+                     "orbiscope: cannot open the display: %s\n"
+                     "To draw the sky into a picture instead:\n"
+                     "  orbiscope render --out sky.png\n",
+                     reason);
+        return kExitFailure;
+    }
+    const std::uint32_t frame = kit.CreateFrame("Orbiscope", kFrameWidth, kFrameHeight);
+    if (!frame || !component->Entry(ToHandle(frame), Join(args).c_str())) {
+        std::fprintf(stderr, "orbiscope: the planetarium did not start\n");
+        if (frame) {
+            kit.DestroyFrame(frame);
+        }
+        return kExitFailure;
+    }
+    int status = kit.RunMessageLoop();
+    kit.DestroyFrame(frame);
+    return status;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc > 1 && std::strcmp(argv[1], "--version") == 0) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    if (!args.empty() && (args[0] == "--version" || args[0] == "-V")) {
         std::printf("orbiscope %s\n", ORBISCOPE_VERSION);
         return 0;
     }
-    PrintUsage();
-    return 0;
+    if (!args.empty() && (args[0] == "--help" || args[0] == "-h")) {
+        PrintUsage(stdout);
+        return 0;
+    }
+    if (!args.empty() && args[0] == "render") {
+        return Render(std::vector<std::string>(args.begin() + 1, args.end()));
+    }
+    if (!args.empty() && args[0].rfind("--", 0) == 0) {
+        std::fprintf(stderr, "orbiscope: unknown option %s\n\n", args[0].c_str());
+        PrintUsage(stderr);
+        return kExitUsage;
+    }
+    return RunOnDisplay(args);
 }

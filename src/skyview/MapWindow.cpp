@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "catalogues/AstroObject.h"
+#include "coords/StellarCoord.h"
 #include "host/HostProf.h"
 #include "platform/Gdi.h"
 #include "platform/TBitmap.h"
@@ -705,6 +706,14 @@ void MapWindow::RestoreCursor()
     if (--nWaitCursors == 0) {
         SetCursor(SavedCursorModule, SavedCursorId);
     }
+}
+
+std::string MapWindow::GetLastTargetName() const
+{
+    if (!LastTargetName.empty()) {
+        return LastTargetName;
+    }
+    return StellarCoord(pOrientation->GetCenterOfView()).GetDescription();
 }
 
 // State.

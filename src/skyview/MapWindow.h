@@ -152,6 +152,9 @@ public:
     const OrientationInfo& GetOrientation() const { return *pOrientation; }
     const AnimationSettings& GetAnimation() const { return Animation; }
     const std::string& GetLocationName() const { return LocationName; }
+    // The name of the object last brought into view, or else the centre of view as RA and Dec:
+    // the title of a bookmark.
+    std::string GetLastTargetName() const;
     bool IsShowingMessier() const { return bShowMessier; }
     bool IsShowingComets() const { return bShowComets; }
     bool IsShowingPlanets() const { return bShowPlanets; }

@@ -1,0 +1,87 @@
+#pragma once
+// The component's window inside the host: it holds the sky map, keeps the default state in
+// the settings store, takes the host's command strings and bookmarks, and lays the map out
+// within its client area, set in by the frame's bezel.
+//
+// The window adds no sky logic: what a command does ends in an operation of MapWindow.
+//
+// Command strings are key=value parameters. The first of these forms present is acted on:
+//   FullState=...        the whole view: AstroNoxWindow=<MapWindow=<...> ...>, as a bookmark
+//                        holds it (the key's value does not matter)
+// A string with none of them does nothing.
+//
+// The default state lies in the settings store below StateRoot, in the subkey "Default":
+// "SOFTWARE\<ProductGroup>\<Name>\<Version>\orbiscope" from section "Version" of the profile.
+// It is written only after changes that say so, and only once the map has a location name.
+#include <string>
+
+#include "platform/TWindow.h"
+
+class HostBookmark;
+class MapWindow;
+class StateContainer;
+
+class AstroNoxWindow : public TWindow
+{
+public:
+    // Messages of the host and of the map.
+    static constexpr UINT kCapabilityMessage = 0x0616;
+    static constexpr UINT kNewBookmarkMessage = 0x0617;
+    static constexpr UINT kCreateBookmarkMessage = 0x061E;
+    static constexpr UINT kReferenceMessage = 0x07E8;
+    static constexpr UINT kFieldChangeMessage = 0x07EA;
+    // The word of the planetarium's bookmarks and icon in the host.
+    static constexpr const char* kBookmarkType = "PLNT";
+
+    // Makes the map and restores the default state, or starts a new one.
+    explicit AstroNoxWindow(TWindow* parent);
+
+    // Places the window over the parent's client area.
+    void SetupWindow() override;
+    void Paint(TDC& dc, bool erase, TRect& rect) override;
+    const TResponseRow* Find(const TEventInfo& event) const override;
+
+    // Acts on a command string as told above.
+    void HandleCommandString(const std::string& command);
+
+    // The default state. Restore is false when the settings store has none.
+    bool RestoreDefaultState();
+    void SaveAsDefaultState();
+    void MakeDefaultState();
+
+    // Shows or hides the Messier objects and keeps the choice as the default.
+    void SetMessierObjectsDisplay(bool show);
+
+    // Puts the map into the client area of that size.
+    void LayoutWindows(const TSize& size);
+
+    // Handlers.
+    void EvSize(UINT sizeType, TSize& size);
+    bool EvEraseBkgnd(HDC dc);
+    // 1 for the capabilities 0 and 1, 0 for any other.
+    LRESULT WmuCapability(WPARAM which, LPARAM);
+    // The LPARAM is a HostBookmark*: its command string is handled. Returns 1.
+    LRESULT WmuNewBookmark(WPARAM, LPARAM bookmark);
+    // A new HostBookmark* of the present view for the caller to own, or 0 without a map.
+    LRESULT WmuCreateBookmark(WPARAM, LPARAM);
+    // The LPARAM is a std::string* with an article reference, which goes to the host's frame.
+    LRESULT WmuObjectSelected(WPARAM, LPARAM reference);
+
+    // The window's state: a level with "MapWindow", "DisplayStatusWindow" and
+    // "DisplayFinderWindow".
+    StateContainer& operator<<(StateContainer& sc) const;
+    StateContainer& operator>>(StateContainer& sc);
+
+    // The map; a child of this window, which owns it.
+    MapWindow* GetMap() const { return pMap; }
+    const std::string& GetStateRoot() const { return StateRoot; }
+    const std::string& GetDefaultKey() const { return DefaultKey; }
+
+private:
+    MapWindow* pMap;
+    std::string StateRoot;
+    std::string DefaultKey = "Default";
+};
+
+StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window);
+StateContainer& operator>>(StateContainer& sc, AstroNoxWindow& window);

@@ -1,0 +1,69 @@
+#pragma once
+// What the reference host program (app/, "orbiscope") takes from liborbiscope.so besides the
+// entry.
+//
+// The program loads the library at run time and links nothing of it, so that the one window
+// system in the library serves both the host's frame and the component inside it. It looks
+// this table up by the name orbiscope_host_kit and calls through it: open a desktop (the
+// display, or the headless one for pictures), make a frame window, set a view on the map,
+// save the map as a picture, run the message loop. The table speaks plain C; window handles
+// are the 32-bit numbers the entry returns.
+#include <cstddef>
+#include <cstdint>
+
+extern "C" {
+
+// A view to set on the map of a component; each part counts only when its flag is not 0.
+struct OrbiscopeView
+{
+    // The moment shown, in Universal Time.
+    int bTime;
+    int nYear;
+    int nMonth;
+    int nDay;
+    int nHour;
+    int nMinute;
+    double Second;
+    // A view fixed on the stars with north up, centred on RA and Dec in degrees.
+    int bCenter;
+    double RA;
+    double Dec;
+    // The field radius in degrees: above 0, at most 90.
+    int bRadius;
+    double Radius;
+    // Shows the RA and Dec grid.
+    int bGrid;
+    // The faintest magnitude shown.
+    int bLimit;
+    double LimitingMagnitude;
+};
+
+struct OrbiscopeHostKit
+{
+    // kOrbiscopeHostKitVersion of the library that made the table.
+    int nVersion;
+    // Chooses the desktop, before any window exists: the display when `display` is not 0,
+    // the headless desktop otherwise. 0, with the reason in `error`, when there is no display.
+    int (*OpenDesktop)(int display, char* error, std::size_t errorSize);
+    // A top-level frame window whose client area is `width` by `height`, installed as the
+    // host's frame; its handle, 0 when it cannot be made.
+    std::uint32_t (*CreateFrame)(const char* title, int width, int height);
+    // The pixels on each side between a frame's client area and the map inside it.
+    int (*GetMapInset)(void);
+    // Sets the view on the map of a component window; 0 when the handle is not one.
+    int (*SetView)(std::uint32_t component, const OrbiscopeView* view);
+    // Lets every waiting message and paint run, then writes what the map of a component
+    // window shows to a PNG file; 0 when that fails.
+    int (*SaveMapPicture)(std::uint32_t component, const char* path);
+    // Runs the message loop until the last frame closes; the loop's exit code.
+    int (*RunMessageLoop)(void);
+    // Destroys a frame window made by CreateFrame and everything in it.
+    void (*DestroyFrame)(std::uint32_t frame);
+};
+
+inline constexpr int kOrbiscopeHostKitVersion = 1;
+
+const OrbiscopeHostKit* orbiscope_host_kit(void);
+
+using OrbiscopeHostKitGetter = const OrbiscopeHostKit* (*)(void);
+}

@@ -1,0 +1,291 @@
+// The reference host as a user runs it without a display: `orbiscope render` draws the map
+// headless through liborbiscope.so and writes a PNG, which is compared pixel for pixel with
+// the golden pictures of tests/e2e/golden; its options refuse bad values with a clear message;
+// and the program without a display says how to make a picture instead.
+//
+// The pictures are made at a fixed moment in Universal Time, in a fresh user directory (no
+// saved default view) and with TZ=UTC, so that the status line does not depend on the machine.
+// ORBISCOPE_UPDATE_GOLDEN=1 writes the golden pictures from the present output.
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/ImageCompare.h"
+#include "platform/PngFile.h"
+
+extern char** environ;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome
+{
+    int nExit = -1;
+    std::string Out;
+    std::string Err;
+};
+
+std::string ReadAll(const fs::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+class RenderCommandTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (fs::temp_directory_path() / "orbiscope-render-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        Dir = pattern;
+    }
+    void TearDown() override
+    {
+        std::error_code ignored;
+        fs::remove_all(Dir, ignored);
+    }
+
+    // Runs the program with `args` in the test's environment, its own home and UTC, with
+    // `unset` taken out of the environment; waits for it to end.
+    Outcome Run(const std::vector<std::string>& args, const std::vector<std::string>& extra = {},
+                const std::vector<std::string>& unset = {"DISPLAY", "WAYLAND_DISPLAY"})
+    {
+        std::vector<std::string> env = {"ORBISCOPE_HOME=" + (Dir / "home").string(), "TZ=UTC"};
+        env.insert(env.end(), extra.begin(), extra.end());
+        for (char** e = environ; *e; ++e) {
+            const std::string entry = *e;
+            const std::string name = entry.substr(0, entry.find('='));
+            bool dropped = name == "ORBISCOPE_HOME" || name == "TZ";
+            for (const std::string& u : unset) {
+                dropped = dropped || name == u;
+            }
+            for (const std::string& x : extra) {
+                dropped = dropped || name == x.substr(0, x.find('='));
+            }
+            if (!dropped) {
+                env.push_back(entry);
+            }
+        }
+        std::vector<std::string> argv = {ORBISCOPE_APP};
+        argv.insert(argv.end(), args.begin(), args.end());
+        std::vector<char*> cargv;
+        for (std::string& a : argv) {
+            cargv.push_back(a.data());
+        }
+        cargv.push_back(nullptr);
+        std::vector<char*> cenv;
+        for (std::string& e : env) {
+            cenv.push_back(e.data());
+        }
+        cenv.push_back(nullptr);
+
+        const fs::path out = Dir / "stdout.txt";
+        const fs::path err = Dir / "stderr.txt";
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(),
+                                         O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(),
+                                         O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        pid_t pid = 0;
+        Outcome outcome;
+        if (posix_spawn(&pid, cargv[0], &actions, nullptr, cargv.data(), cenv.data()) == 0) {
+            int status = 0;
+            ::waitpid(pid, &status, 0);
+            outcome.nExit = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        }
+        posix_spawn_file_actions_destroy(&actions);
+        outcome.Out = ReadAll(out);
+        outcome.Err = ReadAll(err);
+        return outcome;
+    }
+
+    // Renders one grid view and compares it with its golden picture.
+    void ExpectGolden(const std::string& name, const std::string& center, const std::string& radius)
+    {
+        const fs::path picture = Dir / (name + ".png");
+        // Stars are left out: these pictures are about the grid.
+        Outcome made = Run({"render", "--out", picture.string(), "--size", "800x600", "--time",
+                            "2000-01-01 00:00", "--center", center, "--radius", radius, "--grid",
+                            "--limit", "-30"});
+        ASSERT_EQ(made.nExit, 0) << made.Err;
+        PngImage actual;
+        ASSERT_TRUE(ReadPngFile(picture.string(), actual));
+        EXPECT_EQ(actual.Width, 800);
+        EXPECT_EQ(actual.Height, 600);
+
+        const fs::path golden = fs::path(ORBISCOPE_TEST_DIR) / "e2e" / "golden" / (name + ".png");
+        const char* update = std::getenv("ORBISCOPE_UPDATE_GOLDEN");
+        if (update && *update && std::string(update) != "0") {
+            fs::create_directories(golden.parent_path());
+            fs::copy_file(picture, golden, fs::copy_options::overwrite_existing);
+            return;
+        }
+        PngImage expected;
+        ASSERT_TRUE(ReadPngFile(golden.string(), expected))
+            << "no golden picture " << golden << " (ORBISCOPE_UPDATE_GOLDEN=1 writes it)";
+        const fs::path diff = fs::temp_directory_path() / "orbiscope-golden" / (name + "-diff.png");
+        fs::create_directories(diff.parent_path());
+        ImageComparison result = CompareImages(expected, actual, diff.string());
+        EXPECT_TRUE(result.bMatch) << name << ": " << result.Message << " (diff " << diff << ")";
+    }
+
+    fs::path Dir;
+};
+
+} // namespace
+
+// The grid must not change unseen: these three views show meridians every 15 degrees and
+// parallels every 10, straight parallels across the equator, circles round the north pole
+// stopping at 80 degrees, and a hemisphere down to the south pole with its rim.
+TEST_F(RenderCommandTest, TheGridAtTheEquatorThePoleAndFortyFiveSouthMatchesItsPictures)
+{
+    ExpectGolden("grid-equator-radius30", "0,0", "30");
+    ExpectGolden("grid-north-pole-radius60", "0,90", "60");
+    ExpectGolden("grid-dec-minus45-radius90", "0,-45", "90");
+}
+
+TEST_F(RenderCommandTest, RenderWritesThePictureOfTheSizeAskedForAndSaysSo)
+{
+    const fs::path picture = Dir / "sky.png";
+    Outcome made = Run({"render", "--out=" + picture.string(), "--size", "321x123"});
+    ASSERT_EQ(made.nExit, 0) << made.Err;
+    EXPECT_NE(made.Out.find("wrote " + picture.string()), std::string::npos) << made.Out;
+    PngImage image;
+    ASSERT_TRUE(ReadPngFile(picture.string(), image));
+    EXPECT_EQ(image.Width, 321);
+    EXPECT_EQ(image.Height, 123);
+
+    // Stars of the default view are on it: some pixel is neither sky, grid nor status text.
+    int bright = 0;
+    for (int y = 20; y < image.Height; ++y) {
+        for (int x = 0; x < image.Width; ++x) {
+            const BYTE* p = &image.Pixels[(std::size_t(y) * std::size_t(image.Width) + x) * 3];
+            bright += p[0] > 60 && p[0] == p[1] && p[1] == p[2];
+        }
+    }
+    EXPECT_GT(bright, 10);
+}
+
+TEST_F(RenderCommandTest, TheOptionsComeAfterTheCommandString)
+{
+    // A full state that shows no grid and looks elsewhere; --grid and --center win.
+    const std::string state =
+        "FullState=1 AstroNoxWindow=<MapWindow=<Grid=<Show=0 NumberOfRALines=24 "
+        "NumberOfDecLines=36> Orientation_Type=0 Orientation=<Base=<Radius=10> "
+        "CenterOfView=<RA=200 Dec=-60> Zenith=<RA=200 Dec=90>> Display=<Star_Params=<"
+        "Limiting_Magnitude=-30>>>>";
+    const fs::path withOptions = Dir / "options.png";
+    ASSERT_EQ(Run({"render", "--out", withOptions.string(), "--size", "800x600", "--time",
+                   "2000-01-01 00:00", "--center", "0,90", "--radius", "60", "--grid", state})
+                  .nExit,
+              0);
+    const fs::path golden = Dir / "golden.png";
+    ASSERT_EQ(
+        Run({"render", "--out", golden.string(), "--size", "800x600", "--time", "2000-01-01 00:00",
+             "--center", "0,90", "--radius", "60", "--grid", "--limit", "-30"})
+            .nExit,
+        0);
+    PngImage a;
+    PngImage b;
+    ASSERT_TRUE(ReadPngFile(withOptions.string(), a));
+    ASSERT_TRUE(ReadPngFile(golden.string(), b));
+    EXPECT_TRUE(CompareImages(b, a).bMatch) << "the state's limit stays, its view and grid do not";
+
+    // The state alone: no grid, a narrow view elsewhere.
+    const fs::path stateOnly = Dir / "state.png";
+    ASSERT_EQ(Run({"render", "--out", stateOnly.string(), "--size", "800x600", state}).nExit, 0);
+    PngImage c;
+    ASSERT_TRUE(ReadPngFile(stateOnly.string(), c));
+    int blue = 0;
+    for (std::size_t i = 0; i + 2 < c.Pixels.size(); i += 3) {
+        blue += c.Pixels[i] == 0 && c.Pixels[i + 1] == 0 && c.Pixels[i + 2] == 255;
+    }
+    EXPECT_EQ(blue, 0);
+}
+
+TEST_F(RenderCommandTest, BadOptionsAreRefusedWithAMessageAndNoPicture)
+{
+    const std::string out = (Dir / "never.png").string();
+    struct Case
+    {
+        std::vector<std::string> Args;
+        std::string Says;
+    };
+    const std::vector<Case> cases = {
+        {{"render"}, "needs --out"},
+        {{"render", "--out"}, "--out needs a value"},
+        {{"render", "--out", out, "--size", "800"}, "--size takes"},
+        {{"render", "--out", out, "--size", "0x600"}, "--size takes"},
+        {{"render", "--out", out, "--size", "100000x600"}, "--size takes"},
+        {{"render", "--out", out, "--time", "2000-13-01 00:00"}, "--time takes"},
+        {{"render", "--out", out, "--time", "2001-02-29 00:00"}, "--time takes"},
+        {{"render", "--out", out, "--time", "2000-01-01 24:00"}, "--time takes"},
+        {{"render", "--out", out, "--time", "yesterday"}, "--time takes"},
+        {{"render", "--out", out, "--center", "10"}, "--center takes"},
+        {{"render", "--out", out, "--center", "10,95"}, "--center takes"},
+        {{"render", "--out", out, "--radius", "0"}, "--radius takes"},
+        {{"render", "--out", out, "--radius", "91"}, "--radius takes"},
+        {{"render", "--out", out, "--radius", "nan"}, "--radius takes"},
+        {{"render", "--out", out, "--limit", "bright"}, "--limit takes"},
+        {{"render", "--out", out, "--grid=1"}, "--grid takes no value"},
+        {{"render", "--out", out, "--zoom", "2"}, "unknown option --zoom"},
+    };
+    for (const Case& c : cases) {
+        Outcome o = Run(c.Args);
+        EXPECT_EQ(o.nExit, 2) << c.Args.back();
+        EXPECT_NE(o.Err.find(c.Says), std::string::npos) << c.Args.back() << ": " << o.Err;
+    }
+    EXPECT_FALSE(fs::exists(out));
+
+    // A leap day, a time with seconds and a year before the Gregorian calendar are good.
+    for (const char* time : {"2000-02-29 23:59:59.5", "1500-02-29 12:00", "-0043-03-15 12:00"}) {
+        Outcome o = Run({"render", "--out", out, "--size", "16x16", "--time", time});
+        EXPECT_EQ(o.nExit, 0) << time << ": " << o.Err;
+    }
+
+    Outcome missing =
+        Run({"render", "--out", (Dir / "no" / "such" / "dir.png").string(), "--size", "16x16"});
+    EXPECT_EQ(missing.nExit, 1);
+    EXPECT_NE(missing.Err.find("cannot write"), std::string::npos) << missing.Err;
+}
+
+TEST_F(RenderCommandTest, WithoutADisplayTheProgramPointsToRender)
+{
+    Outcome o = Run({});
+    EXPECT_EQ(o.nExit, 1);
+    EXPECT_NE(o.Err.find("no display"), std::string::npos) << o.Err;
+    EXPECT_NE(o.Err.find("orbiscope render --out sky.png"), std::string::npos) << o.Err;
+
+    Outcome help = Run({"--help"});
+    EXPECT_EQ(help.nExit, 0);
+    EXPECT_NE(help.Out.find("orbiscope [COMMAND]"), std::string::npos);
+    EXPECT_NE(help.Out.find("orbiscope render --out FILE"), std::string::npos);
+    for (const char* option : {"--size", "--time", "--center", "--radius", "--grid", "--limit"}) {
+        EXPECT_NE(help.Out.find(option), std::string::npos) << option;
+    }
+    EXPECT_EQ(Run({"--version"}).Out, "orbiscope " ORBISCOPE_VERSION "\n");
+}
+
+TEST_F(RenderCommandTest, ALibraryThatCannotBeLoadedIsNamed)
+{
+    Outcome o = Run({"render", "--out", (Dir / "x.png").string()},
+                    {"ORBISCOPE_LIBRARY=" + (Dir / "missing.so").string()});
+    EXPECT_EQ(o.nExit, 1);
+    EXPECT_NE(o.Err.find("cannot load the planetarium"), std::string::npos) << o.Err;
+    EXPECT_NE(o.Err.find("missing.so"), std::string::npos) << o.Err;
+}

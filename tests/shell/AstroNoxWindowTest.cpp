@@ -1,0 +1,219 @@
+// The component as a host starts it: the entry makes the component window inside the host's
+// frame with the map set in by the bezel, command strings and bookmarks carry whole views, and
+// the default state comes back at the next start.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "coords/StellarCoord.h"
+#include "host/HostBookmark.h"
+#include "host/HostFrameAPI.h"
+#include "host/HostFrameWindow.h"
+#include "host/HostStringTable.h"
+#include "host/ScopedHome.h"
+#include "platform/Registry.h"
+#include "projection/FixedOrientationInfo.h"
+#include "shell/AstroNoxWindow.h"
+#include "shell/OrbiscopeEntry.h"
+#include "skyview/MapWindow.h"
+#include "windows/HeadlessFixture.h"
+
+namespace {
+
+constexpr int kWidth = 300;
+constexpr int kHeight = 200;
+
+// A view unlike the map's own: the Pleiades, narrow, with a grid of 12 by 18 lines.
+const char* const kPleiadesState =
+    "orbiscope FullState=0 AstroNoxWindow=<MapWindow=<Grid=<Show=1 NumberOfRALines=12 "
+    "NumberOfDecLines=18> Orientation_Type=0 Orientation=<Base=<Radius=5> "
+    "CenterOfView=<RA=56.75 Dec=24.1167> Zenith=<RA=56.75 Dec=90>> Messier=1 "
+    "Location_Name=Tucson>>";
+// The same view without a place, which is therefore not kept as the default.
+const char* const kPleiadesView =
+    "FullState=1 AstroNoxWindow=<MapWindow=<Grid=<Show=1 NumberOfRALines=12 "
+    "NumberOfDecLines=18> Orientation_Type=0 Orientation=<Base=<Radius=5> "
+    "CenterOfView=<RA=56.75 Dec=24.1167> Zenith=<RA=56.75 Dec=90>>>>";
+
+HWND ToHandle(std::uint32_t handle)
+{
+    return reinterpret_cast<HWND>(std::uintptr_t(handle));
+}
+
+} // namespace
+
+class AstroNoxWindowTest : public HeadlessTest
+{
+protected:
+    void SetUp() override
+    {
+        HeadlessTest::SetUp();
+        SetHostFrameAPI(&Frame);
+        pFrame = std::make_unique<HostFrameWindow>("Host", kWidth, kHeight);
+        ASSERT_TRUE(pFrame->Create());
+    }
+    void TearDown() override
+    {
+        pFrame->Destroy();
+        pFrame.reset();
+        SetHostFrameAPI(nullptr);
+        CloseRegistryStore();
+        HeadlessTest::TearDown();
+    }
+
+    // Starts the component in the frame as the host does.
+    AstroNoxWindow& Start(const char* command = nullptr)
+    {
+        std::uint32_t handle = orbiscope(pFrame->HWindow, command);
+        EXPECT_NE(handle, 0u);
+        auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(ToHandle(handle)));
+        EXPECT_NE(window, nullptr);
+        Pump();
+        return *window;
+    }
+
+    ScopedHome Home;
+    StandardHostFrame Frame;
+    std::unique_ptr<HostFrameWindow> pFrame;
+};
+
+TEST_F(AstroNoxWindowTest, TheEntryMakesTheComponentOverTheFrameWithTheMapInsideTheBezel)
+{
+    AstroNoxWindow& window = Start();
+    EXPECT_EQ(window.GetParentO(), pFrame.get());
+    EXPECT_EQ(window.GetRect(), TRect(0, 0, kWidth, kHeight));
+    MapWindow* map = window.GetMap();
+    ASSERT_NE(map, nullptr);
+    const int bezel = Frame.GetMetric(kHostMetricBezelWidth);
+    EXPECT_EQ(map->GetRect(), TRect(bezel, bezel, kWidth - bezel, kHeight - bezel));
+    EXPECT_EQ(map->GetFieldChangeMessage(), 0x07EAu);
+    EXPECT_EQ(map->GetReferenceMessage(), 0x07E8u);
+    EXPECT_NE(map->GetMemoryDC(), nullptr) << "the first paint drew the map";
+
+    // The sunken edge: dark above and to the left, light below and to the right.
+    auto screen = WindowSystem::Get().CaptureWindow(window.HWindow);
+    EXPECT_EQ(screen->ColorAt(kWidth / 2, 0), RGB(128, 128, 128));
+    EXPECT_EQ(screen->ColorAt(0, kHeight / 2), RGB(128, 128, 128));
+    EXPECT_EQ(screen->ColorAt(kWidth / 2, 1), RGB(0, 0, 0));
+    EXPECT_EQ(screen->ColorAt(kWidth / 2, kHeight - 1), RGB(255, 255, 255));
+    EXPECT_EQ(screen->ColorAt(kWidth - 2, kHeight / 2), RGB(192, 192, 192));
+
+    // The frame grows, the component and its map follow.
+    pFrame->MoveWindow(0, 0, 400, 260);
+    Pump();
+    EXPECT_EQ(window.GetRect(), TRect(0, 0, 400, 260));
+    EXPECT_EQ(map->GetRect(), TRect(bezel, bezel, 400 - bezel, 260 - bezel));
+    EXPECT_EQ(map->GetDisplayParameters().FastHeader.biWidth, (400 - 2 * bezel + 7) / 8 * 8);
+}
+
+TEST_F(AstroNoxWindowTest, TheEntryRefusesAParentThatIsNoWindow)
+{
+    EXPECT_EQ(orbiscope(nullptr, nullptr), 0u);
+    EXPECT_EQ(orbiscope(ToHandle(0x7FFFFFF0u), "FullState=1"), 0u);
+    HostFrameWindow unshown("Never created", 100, 100);
+    EXPECT_EQ(orbiscope(unshown.HWindow, nullptr), 0u);
+    EXPECT_TRUE(unshown.GetChildren().empty());
+}
+
+TEST_F(AstroNoxWindowTest, AFullStateCommandRestoresTheViewWhateverTheKeysValue)
+{
+    AstroNoxWindow& window = Start(kPleiadesState);
+    const MapWindow& map = *window.GetMap();
+    EXPECT_EQ(map.GetOrientation().GetCenterOfView(), PolarCoord(56.75, 24.1167));
+    EXPECT_DOUBLE_EQ(map.GetOrientation().GetFieldRadius(), 5.0);
+    EXPECT_EQ(map.GetGridInfo(), GridInfo(12, 18, true));
+    EXPECT_TRUE(map.IsShowingMessier());
+    EXPECT_EQ(map.GetLocationName(), "Tucson");
+    EXPECT_EQ(map.GetTransformation()->GetCenterOfView(), PolarCoord(56.75, 24.1167));
+}
+
+TEST_F(AstroNoxWindowTest, CommandsWithoutAKnownFormChangeNothing)
+{
+    AstroNoxWindow& window = Start();
+    MapWindow& map = *window.GetMap();
+    const PolarCoord centre = map.GetOrientation().GetCenterOfView();
+    for (const char* command : {"", "orbiscope", "fullstat=1", "Grid=<Show=1>", "<<<", "=>"}) {
+        window.HandleCommandString(command);
+        EXPECT_EQ(map.GetOrientation().GetCenterOfView(), centre) << command;
+        EXPECT_FALSE(map.GetGridInfo().bShow) << command;
+    }
+    // Key names ignore case, as every name of the component does.
+    window.HandleCommandString("FULLSTATE=1 astronoxwindow=<mapwindow=<Grid=<Show=1 "
+                               "NumberOfRALines=24 NumberOfDecLines=36>>>");
+    EXPECT_TRUE(map.GetGridInfo().bShow);
+}
+
+TEST_F(AstroNoxWindowTest, ABookmarkCarriesTheViewIntoAnotherComponent)
+{
+    AstroNoxWindow& first = Start(kPleiadesView);
+    auto* bookmark = reinterpret_cast<HostBookmark*>(
+        first.SendMessage(AstroNoxWindow::kCreateBookmarkMessage, 0, 0));
+    ASSERT_NE(bookmark, nullptr);
+    std::unique_ptr<HostBookmark> owned(bookmark);
+    EXPECT_EQ(owned->Type, "PLNT");
+    EXPECT_EQ(owned->Command.rfind("orbiscope FullState=1 AstroNoxWindow=<MapWindow=<", 0), 0u)
+        << owned->Command;
+    // Without an object in view the title names the centre.
+    EXPECT_EQ(owned->Title,
+              getHostString(5, 1000) + StellarCoord(PolarCoord(56.75, 24.1167)).GetDescription());
+
+    first.Destroy();
+    AstroNoxWindow& second = Start();
+    EXPECT_FALSE(second.GetMap()->GetGridInfo().bShow);
+    EXPECT_EQ(second.SendMessage(AstroNoxWindow::kNewBookmarkMessage, 0,
+                                 reinterpret_cast<LPARAM>(owned.get())),
+              1);
+    EXPECT_EQ(second.GetMap()->GetOrientation().GetCenterOfView(), PolarCoord(56.75, 24.1167));
+    EXPECT_EQ(second.GetMap()->GetGridInfo(), GridInfo(12, 18, true));
+    EXPECT_EQ(second.SendMessage(AstroNoxWindow::kNewBookmarkMessage, 0, 0), 1)
+        << "no bookmark, no change, still answered";
+}
+
+TEST_F(AstroNoxWindowTest, TheDefaultStateIsKeptOnceThereIsALocationName)
+{
+    {
+        AstroNoxWindow& window = Start();
+        EXPECT_FALSE(window.RestoreDefaultState()) << "a first start";
+        window.SetMessierObjectsDisplay(true);
+        EXPECT_FALSE(window.RestoreDefaultState()) << "no place yet, nothing kept";
+        window.GetMap()->SetLocationName("Paris");
+        window.GetMap()->SetOrientation(
+            FixedOrientationInfo(nullptr, PolarCoord(10, 20), PolarCoord(10, 90), 25.0));
+        window.SetMessierObjectsDisplay(true);
+        EXPECT_EQ(window.GetStateRoot(), "SOFTWARE\\Orbiscope\\Planetarium\\1.0\\orbiscope");
+        window.Destroy();
+    }
+    AstroNoxWindow& next = Start();
+    const MapWindow& map = *next.GetMap();
+    EXPECT_EQ(map.GetLocationName(), "Paris");
+    EXPECT_TRUE(map.IsShowingMessier());
+    EXPECT_EQ(map.GetOrientation().GetCenterOfView(), PolarCoord(10, 20));
+    EXPECT_DOUBLE_EQ(map.GetOrientation().GetFieldRadius(), 25.0);
+    EXPECT_NE(map.GetTime().GetYear(), 0) << "the time is not part of the default";
+}
+
+TEST_F(AstroNoxWindowTest, ItAnswersWhichCapabilitiesItHas)
+{
+    AstroNoxWindow& window = Start();
+    EXPECT_EQ(window.SendMessage(AstroNoxWindow::kCapabilityMessage, 0, 0), 1);
+    EXPECT_EQ(window.SendMessage(AstroNoxWindow::kCapabilityMessage, 1, 0), 1);
+    EXPECT_EQ(window.SendMessage(AstroNoxWindow::kCapabilityMessage, 2, 0), 0);
+}
+
+TEST_F(AstroNoxWindowTest, AReferenceFromTheMapGoesToTheHostsFrame)
+{
+    std::string launched;
+    StandardHostFrame recording([&](const std::string& address) {
+        launched = address;
+        return true;
+    });
+    SetHostFrameAPI(&recording);
+    AstroNoxWindow& window = Start();
+    const std::string reference = "article:orion";
+    window.SendMessage(AstroNoxWindow::kReferenceMessage, 0, reinterpret_cast<LPARAM>(&reference));
+    EXPECT_EQ(launched, reference);
+    window.SendMessage(AstroNoxWindow::kReferenceMessage, 0, 0);
+    EXPECT_EQ(launched, reference);
+    SetHostFrameAPI(&Frame);
+}
