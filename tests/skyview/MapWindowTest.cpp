@@ -273,7 +273,7 @@ TEST_F(MapWindowTest, OnlyTheLastCentreChosenWhileTheTimeIsDirtyIsApplied)
 
 TEST_F(MapWindowTest, GridChangesTakeCountsAndShowFlagButNeverTheColourOrTooManyLines)
 {
-    MapWindow& map = Open(64, 40);
+    MapWindow& map = Open(200, 150);
     GridInfo grid(12, 18, true);
     grid.Color = TColor(255, 0, 0);
     map.SetGridInfo(grid);
@@ -281,6 +281,15 @@ TEST_F(MapWindowTest, GridChangesTakeCountsAndShowFlagButNeverTheColourOrTooMany
     EXPECT_EQ(map.GetGridInfo().nDecLines, 18u);
     EXPECT_TRUE(map.GetGridInfo().bShow);
     EXPECT_EQ(map.GetGridInfo().Color, TColor(0, 0, 255));
+
+    Pump();
+    EXPECT_GT(CountGridPixels(), 100);
+
+    // Seven Dec lines are too few for a grid: nothing is drawn, meridians included.
+    map.SetGridInfo(GridInfo(24, 7, true));
+    Pump();
+    EXPECT_EQ(CountGridPixels(), 0);
+    EXPECT_EQ(map.GetGridLines().GetCount(), 0u);
 
     map.SetGridInfo(GridInfo(499, 499, false));
     EXPECT_EQ(map.GetGridInfo().nRALines, 499u);
