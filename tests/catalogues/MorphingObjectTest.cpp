@@ -92,22 +92,6 @@ TEST(MorphingObject, FadeNeverWrapsBelowZero)
     EXPECT_EQ(object.GetModifiedIntensityForStage(999, 20), 0u); // the average plays no part
 }
 
-TEST(MorphingObject, SkyObjectFacts)
-{
-    MorphingObject object = MakeObject(7);
-    object.SetPosition(PolarCoord(12.5, -4.0));
-    EXPECT_EQ(object.GetPosition(), PolarCoord(12.5, -4.0));
-    EXPECT_EQ(object.GetMagnitude(), 0.0);
-    EXPECT_FALSE(object.IsTimeDependent());
-    EXPECT_TRUE(object.HasDisplayRect());
-    EXPECT_EQ(object.GetType(), AstroObject::ObjectType::OtherObject);
-    DisplayParameters parameters;
-    EXPECT_FALSE(object.IsLabeled(parameters));
-    object.SetDisplayPoint(TPoint(7, 9));
-    EXPECT_EQ(object.GetDisplayPoint(), TPoint(7, 9));
-    EXPECT_EQ(object.GetBitmap().GetDisplayPoint(), TPoint(7, 9));
-}
-
 TEST(MorphingObject, DrawShowsTheColoursOfThePresentStage)
 {
     SkyCanvas canvas(32, 32);

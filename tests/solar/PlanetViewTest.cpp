@@ -149,25 +149,6 @@ TEST(PlanetView, WithoutAnOriginThereIsNoPlaceAndNoMagnitude)
     EXPECT_EQ(canvas.Picture(TRect(8, 8, 10, 9), {{GreyIndex(canvas, 70), 'g'}}), "gg\n");
 }
 
-TEST(PlanetView, NamesAndOrder)
-{
-    MarsView mars;
-    SunView sun;
-    EXPECT_TRUE(mars.HasListName());
-    EXPECT_TRUE(mars.HasInfoName());
-    EXPECT_EQ(mars.GetListName(), "Mars");
-    EXPECT_EQ(mars.GetInfoName(), "Mars");
-    EXPECT_EQ(mars.GetRefName(), "Mars");
-    EXPECT_TRUE(mars.IsLessThan(sun));
-    EXPECT_FALSE(sun.IsLessThan(mars));
-    EXPECT_FALSE(mars.IsLessThan(mars));
-    EXPECT_TRUE(mars.IsListSorted());
-    EXPECT_TRUE(mars.IsTimeDependent());
-    EXPECT_EQ(sun.GetMagnitude(), -27.0);
-    EXPECT_EQ(sun.GetType(), AstroObject::ObjectType::Star);
-    EXPECT_EQ(mars.GetTypeName(), "Planet");
-}
-
 TEST(PlanetView, PlaceAndDistanceAreAskedOfTheOrigin)
 {
     EarthView earth;
