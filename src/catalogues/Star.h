@@ -125,6 +125,8 @@ public:
     bool HasScrollCache() const { return bScrollCacheValid; }
     RectCoord& GetScrollCache() { return ScrollCache; }
     void SetScrollCache(const RectCoord& coord);
+    // Forgets the stored vector and nothing else: the colour stays.
+    void DropScrollCache() { bScrollCacheValid = false; }
 
     // The colour worked out at the last draw; kNoPaletteIndex when there is none.
     std::uint32_t GetPaletteIndex() const { return nPaletteIndex; }

@@ -37,8 +37,24 @@ TEST(HostLinks, ShippedTableReadsWithoutProblems)
     ASSERT_TRUE(table.Load("ed:\\links.txt"));
     EXPECT_TRUE(table.GetProblems().empty())
         << (table.GetProblems().empty() ? "" : table.GetProblems().front());
-    EXPECT_EQ(table.GetObjectCount(), 110u + std::size(kLinkedBodies));
+    // Messier objects, bodies, the 88 constellations and the named bright stars.
+    EXPECT_GT(table.GetObjectCount(), 110u + std::size(kLinkedBodies) + 88u + 500u);
     EXPECT_GE(table.GetLinkCount(), table.GetObjectCount());
+}
+
+TEST(HostLinks, ConstellationsAndNamedStarsOpenTheirArticles)
+{
+    HostLinkCollection orion;
+    ASSERT_EQ(GetAllHostLinks(kUidBase + 60, orion), 1); // line 60 of the constellation list
+    EXPECT_EQ(orion.begin()->GetCommandString(),
+              "https://en.wikipedia.org/wiki/Orion_(constellation)");
+
+    HostLinkCollection sirius;
+    ASSERT_EQ(GetAllHostLinks(kUidBase + 1000 + 151881, sirius), 1);
+    EXPECT_EQ(sirius.begin()->GetCommandString(), "https://en.wikipedia.org/wiki/Sirius");
+
+    HostLinkCollection unnamed;
+    EXPECT_EQ(GetAllHostLinks(kUidBase + 1000 + 106, unnamed), 0);
 }
 
 TEST(HostLinks, EveryMessierObjectOpensItsEncyclopediaArticle)

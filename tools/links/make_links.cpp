@@ -1,8 +1,13 @@
 // Builds data/links.txt, the table from object uids to article addresses, out of the list of
 // web pages that KStars ships for the Messier objects, the Sun, the Moon and the planets
-// (Debian package kstars-data, /usr/share/kstars/info_url.dat, "merely a list of facts").
+// (Debian package kstars-data, /usr/share/kstars/info_url.dat, "merely a list of facts"),
+// and encyclopedia addresses made from the names of the constellations and of named stars.
 //
-//   make_links [/usr/share/kstars/info_url.dat] [data/links.txt]
+//   make_links [info_url.dat] [data/links.txt] [data/constnam.txt] [bright.txt]
+//
+// The constellation list gives each constellation its uid by its line (0x70000000 + line
+// index + 1); the star lines (SAO, magnitude, ..., name in the 13th field, as the star
+// catalogue text form has them) give 0x70000000 + 1000 + SAO for every star with a name.
 //
 // Source lines are "Object name:Label:Address". Objects are given the uids the planetarium
 // gives them: 0x70000000 plus 100 + n for Messier object n, 300 + the body number for the
@@ -11,6 +16,7 @@
 // its addresses in the order of the source, which puts the encyclopedia article first.
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -59,6 +65,64 @@ long UidOf(const std::string& name)
         }
     }
     return 0;
+}
+
+// An encyclopedia address for a title: blanks become underscores.
+std::string WikipediaAddress(std::string title)
+{
+    std::replace(title.begin(), title.end(), ' ', '_');
+    return "https://en.wikipedia.org/wiki/" + title;
+}
+
+std::vector<std::string> SplitCommas(const std::string& line)
+{
+    std::vector<std::string> fields;
+    std::stringstream in(line);
+    std::string field;
+    while (std::getline(in, field, ',')) {
+        fields.push_back(Trim(field));
+    }
+    return fields;
+}
+
+// One link per constellation of the name list, by its line.
+int AddConstellationLinks(const std::string& path, std::vector<Link>& links)
+{
+    std::ifstream in(path);
+    std::string line;
+    long index = 0;
+    while (std::getline(in, line)) {
+        std::vector<std::string> fields = SplitCommas(line);
+        if (fields.size() < 2 || fields[0].empty()) {
+            break;
+        }
+        links.push_back({kUidBase + index + 1, fields[0], "Wikipedia Page",
+                         WikipediaAddress(fields[0] + " (constellation)")});
+        ++index;
+    }
+    return static_cast<int>(index);
+}
+
+// One link per named star of a star catalogue text file.
+int AddStarLinks(const std::string& path, std::vector<Link>& links)
+{
+    std::ifstream in(path);
+    std::string line;
+    int count = 0;
+    while (std::getline(in, line)) {
+        std::vector<std::string> fields = SplitCommas(line);
+        if (fields.size() < 13 || fields[12].empty()) {
+            continue;
+        }
+        long sao = std::atol(fields[0].c_str());
+        if (sao < 1 || sao > 258997) {
+            continue;
+        }
+        links.push_back(
+            {kUidBase + 1000 + sao, fields[12], "Wikipedia Page", WikipediaAddress(fields[12])});
+        ++count;
+    }
+    return count;
 }
 
 // The text with the field separator of links.txt replaced.
@@ -110,6 +174,12 @@ int main(int argc, char** argv)
         links.push_back(
             {uid, name, Field(line.substr(first + 1, second - first - 1)), Field(address)});
     }
+    if (argc > 3) {
+        std::cerr << "make_links: " << AddConstellationLinks(argv[3], links) << " constellations\n";
+    }
+    if (argc > 4) {
+        std::cerr << "make_links: " << AddStarLinks(argv[4], links) << " named stars\n";
+    }
     std::stable_sort(links.begin(), links.end(),
                      [](const Link& a, const Link& b) { return a.Uid < b.Uid; });
 
@@ -120,9 +190,8 @@ int main(int argc, char** argv)
     }
     out << "# Article addresses of the planetarium's objects, by uid. Made by "
            "tools/links/make_links\n"
-           "# from KStars' info_url.dat (Debian package kstars-data); do not edit by hand, run\n"
-           "#   build/release/tools/links/make_links /usr/share/kstars/info_url.dat "
-           "data/links.txt\n"
+           "# from KStars' info_url.dat (Debian package kstars-data), the constellation list and\n"
+           "# the named bright stars; do not edit by hand, run tools/links/make_links_file\n"
            "# One link a line: uid | object | title | address. A uid's first line is the link\n"
            "# the planetarium opens for it.\n";
     std::map<long, int> objects;

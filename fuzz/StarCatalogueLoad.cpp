@@ -1,0 +1,98 @@
+// Any bytes as a star file: the catalogue loads its headers, then requests look at the whole
+// sky (both poles, the equator all round, wide and narrow fields, a frame of a scroll), stars
+// are looked up by number and by name, and the catalogue is written out again. Nothing may
+// fault, read past a buffer or ask for more memory than the file could fill.
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "catalogues/AstroList.h"
+#include "catalogues/CatalogueSet.h"
+#include "catalogues/Request.h"
+#include "catalogues/Star.h"
+#include "catalogues/StarCatalogue.h"
+#include "platform/DeviceCaps.h"
+#include "platform/Surface.h"
+#include "platform/TDC.h"
+#include "time/AstroTime.h"
+
+namespace {
+
+std::string ScratchPath(const char* what)
+{
+    const char* dir = std::getenv("TMPDIR");
+    return std::string(dir && *dir ? dir : "/tmp") + "/orbiscope-fuzz-" + what + "-" +
+           std::to_string(::getpid()) + ".bin";
+}
+
+// The views every input is looked at through, made once.
+const std::vector<Transformation>& Views()
+{
+    static Surface pixels(1, 1, PixelFormat::Rgb32);
+    static TDC dc(pixels, DeviceCaps{});
+    static const std::vector<Transformation> views = [] {
+        const TRect rect(0, 0, 1024, 768);
+        std::vector<Transformation> made;
+        for (double radius : {90.0, 20.0}) {
+            made.emplace_back(dc, rect, PolarCoord(0, 90), radius, PolarCoord(0, 0));
+            made.emplace_back(dc, rect, PolarCoord(0, -90), radius, PolarCoord(0, 0));
+            for (double ra = 0.0; ra < 360.0; ra += 45.0) {
+                for (double dec : {-45.0, 0.0, 45.0}) {
+                    made.emplace_back(dc, rect, PolarCoord(ra, dec), radius, PolarCoord(0, 90));
+                }
+            }
+        }
+        return made;
+    }();
+    return views;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const std::string input = ScratchPath("in");
+    static const std::string output = ScratchPath("out");
+    if (std::FILE* file = std::fopen(input.c_str(), "wb")) {
+        std::fwrite(data, 1, size, file);
+        std::fclose(file);
+    } else {
+        return 0;
+    }
+
+    StarCatalogue catalogue;
+    catalogue.Load(input);
+    AstroList list(500, 1000);
+    const AstroTime time(1, 1, 2000, 0.0);
+    std::uint32_t someNumber = 0;
+    for (const Transformation& view : Views()) {
+        Request request(view, CatalogueSet(AstroCatalogue::STARS), time, 99.0);
+        list.Flush();
+        catalogue.SatisfyRequest(request, list);
+        for (AstroObject* object : list) {
+            someNumber = static_cast<Star*>(object)->GetSAONumber();
+        }
+    }
+    // Two frames of a scroll over the last view.
+    for (int frame = 0; frame < 2; ++frame) {
+        Request scroll(Views().back(), CatalogueSet(AstroCatalogue::STARS), time, 99.0);
+        scroll.SetScrolling(true);
+        scroll.SetScrollInfo(AstroScrollInfo(3, 350, DegreeAngle(2.0)));
+        scroll.SetKeepScrollCache(frame > 0);
+        list.Flush();
+        catalogue.SatisfyRequest(scroll, list);
+    }
+    list.Flush();
+
+    if (Star* star = catalogue.GetStarFromSAONumber(someNumber)) {
+        (void)star->GetInfoName();
+        star->ReleaseReference();
+    }
+    (void)catalogue.GetListOfNamedObjects();
+    catalogue.Dump(output);
+    return 0;
+}
