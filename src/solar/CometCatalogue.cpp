@@ -1,5 +1,7 @@
 #include "solar/CometCatalogue.h"
 
+#include "catalogues/AstroList.h"
+#include "catalogues/Request.h"
 #include "host/HostProf.h"
 #include "solar/CometList.h"
 
@@ -44,5 +46,23 @@ void CometCatalogue::SetOrigin(SolarSystemObject& origin)
 {
     for (CometView* comet : Comets) {
         comet->SetOrigin(origin);
+    }
+}
+
+void CometCatalogue::SatisfyRequest(const Request& request, AstroList& list)
+{
+    const Transformation& view = request.GetView();
+    const SkyRange range = view.GetVisibleRange();
+    for (CometView* comet : Comets) {
+        comet->SetTime(request.GetTime());
+        const PolarCoord position = comet->GetPosition();
+        if (!range.Contains(position)) {
+            continue;
+        }
+        TPoint point;
+        if (view.Translate(position, point)) {
+            comet->SetDisplayPoint(point);
+            list.Add(comet);
+        }
     }
 }

@@ -11,8 +11,10 @@
 #include "catalogues/PointerVector.h"
 #include "solar/CometView.h"
 
+class AstroList;
 class AstroTime;
 class HostProf;
+class Request;
 class SolarSystemObject;
 
 class CometCatalogue : public AstroCatalogue
@@ -32,6 +34,10 @@ public:
     std::unique_ptr<PointerVector<AstroObject>> GetListOfNamedObjects() override;
     void SetTime(const AstroTime& time);
     void SetOrigin(SolarSystemObject& origin);
+    // Sets the request's time on every comet, then adds to `list`, in order, each comet that
+    // lies in the view's visible range and within the visible radius, with its display point
+    // set. Comets are never held to the limiting magnitude.
+    void SatisfyRequest(const Request& request, AstroList& list);
     bool IsTimeDependent() const override { return true; }
 
     std::size_t GetCount() const { return Comets.size(); }

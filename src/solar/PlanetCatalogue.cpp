@@ -1,6 +1,8 @@
 #include "solar/PlanetCatalogue.h"
 
+#include "catalogues/AstroList.h"
 #include "catalogues/LorvString.h"
+#include "catalogues/Request.h"
 #include "solar/EarthView.h"
 #include "solar/JupiterView.h"
 #include "solar/MarsView.h"
@@ -133,6 +135,30 @@ void PlanetCatalogue::ReadOptions(StateContainer& sc)
 {
     sc >> Options;
     UpdatePlanetOptions();
+}
+
+void PlanetCatalogue::SatisfyRequest(const Request& request, AstroList& list)
+{
+    // Every body takes the time before any place is asked for: places are seen from the Earth,
+    // which must not lag behind the bodies before it in the list.
+    SetTime(request.GetTime());
+    const Transformation& view = request.GetView();
+    const SkyRange range = view.GetVisibleRange();
+    for (PlanetView* planet : Views) {
+        if (!planet->IsVisible()) {
+            continue;
+        }
+        // The cheap range test first, so that bodies out of view are not projected.
+        const PolarCoord position = planet->GetPosition();
+        if (!range.Contains(position)) {
+            continue;
+        }
+        TPoint point;
+        if (view.Translate(position, point)) {
+            planet->SetDisplayPoint(point);
+            list.Add(planet);
+        }
+    }
 }
 
 SolarSystemObject* PlanetCatalogue::GetSolarSystemObject(unsigned place) const

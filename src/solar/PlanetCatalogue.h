@@ -18,7 +18,9 @@
 #include "solar/PlanetOptions.h"
 #include "solar/PlanetView.h"
 
+class AstroList;
 class AstroTime;
+class Request;
 class SolarSystemObject;
 class StateContainer;
 
@@ -59,6 +61,11 @@ public:
     // Reads the options from state, then hands them down.
     void ReadOptions(StateContainer& sc);
 
+    // Sets the request's time on every view (all of them first, so that the origin has it
+    // before any place is worked out), then adds to `list`, in catalogue order, each visible
+    // body that lies in the view's visible range and within the visible radius, with its
+    // display point set.
+    void SatisfyRequest(const Request& request, AstroList& list);
     bool IsTimeDependent() const override { return true; }
 
     // The body of the view at a place; null beyond the last place.

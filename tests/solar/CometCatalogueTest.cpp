@@ -7,9 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "catalogues/AstroList.h"
+#include "catalogues/Request.h"
 #include "catalogues/StringParser.h"
 #include "host/HostProf.h"
 #include "platform/DebugStream.h"
+#include "projection/Transformation.h"
 #include "skyview/SkyCanvas.h"
 #include "solar/CometCatalogue.h"
 #include "solar/Earth200.h"
@@ -173,4 +176,46 @@ TEST_F(CometCatalogueTest, CometIsAYellowXCentredOnItsPoint)
             EXPECT_TRUE(index == 0 || index == yellow) << x << ", " << y;
         }
     }
+}
+
+TEST_F(CometCatalogueTest, RequestListsTheCometsInViewWhateverTheirMagnitude)
+{
+    CometCatalogue comets = FromProfile("");
+    Earth200 earth;
+    const AstroTime when(50540.0, false); // 1997 March 29, Hale-Bopp near perihelion
+    earth.SetTime(when);
+    comets.SetOrigin(earth);
+    comets.SetTime(when);
+    CometView* haleBopp = comets.GetView(0);
+    const PolarCoord place = haleBopp->GetPosition();
+
+    SkyCanvas canvas(200, 200);
+    Transformation view(canvas.GetDC(), TRect(0, 0, 200, 200), place, 10.0, PolarCoord(0.0, 90.0));
+    // A limiting magnitude far brighter than a comet's 99 keeps nothing out.
+    Request request(view, CatalogueSet(AstroCatalogue::COMETS), when, -5.0);
+    AstroList list(10, 10);
+    comets.SatisfyRequest(request, list);
+    ASSERT_EQ(list.GetCount(), 1u);
+    EXPECT_EQ(list[0], haleBopp);
+    EXPECT_EQ(haleBopp->GetDisplayPoint(), TPoint(100, 100));
+    // Hale-Bopp stood high in the northern sky that spring, in Andromeda and Perseus.
+    EXPECT_GT(place.GetDec().GetDegrees(), 35.0);
+    EXPECT_LT(place.GetDec().GetDegrees(), 50.0);
+}
+
+TEST_F(CometCatalogueTest, RequestGivesEveryCometItsTime)
+{
+    CometCatalogue comets = FromProfile("");
+    Earth200 earth;
+    const AstroTime when(46470.0, false);
+    earth.SetTime(when);
+    comets.SetOrigin(earth);
+    SkyCanvas canvas(100, 100);
+    Transformation view(canvas.GetDC(), TRect(0, 0, 100, 100), PolarCoord(0.0, -90.0), 1.0,
+                        PolarCoord(0.0, 0.0));
+    AstroList list(10, 10);
+    comets.SatisfyRequest(Request(view, CatalogueSet(AstroCatalogue::COMETS), when, 6.0), list);
+    EXPECT_EQ(list.GetCount(), 0u);
+    EXPECT_EQ(comets.GetView(0)->GetComet().GetTime().GetMJD(), when.GetMJD());
+    EXPECT_EQ(comets.GetView(1)->GetComet().GetTime().GetMJD(), when.GetMJD());
 }

@@ -2,10 +2,15 @@
 // case, timed together with the Moon after the Earth, and their label option in saved state.
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
+#include "catalogues/AstroList.h"
+#include "catalogues/Request.h"
+#include "projection/Transformation.h"
 #include "skyview/DisplayParameters.h"
+#include "skyview/SkyCanvas.h"
 #include "solar/Earth200.h"
 #include "solar/Moon.h"
 #include "solar/PlanetCatalogue.h"
@@ -29,10 +34,36 @@ std::vector<std::string> Names(const PointerVector<AstroObject>& list)
     return names;
 }
 
+std::vector<std::string> Names(const AstroList& list)
+{
+    std::vector<std::string> names;
+    for (const AstroObject* object : list) {
+        names.push_back(object->GetListName());
+    }
+    return names;
+}
+
 class PlanetCatalogueTest : public ::testing::Test
 {
 protected:
     PlanetCatalogue Planets;
+};
+
+// Requests for views of a 200-pixel square sky.
+class PlanetRequestTest : public PlanetCatalogueTest
+{
+protected:
+    PlanetRequestTest() : Canvas(200, 200) {}
+
+    Request Looking(const PolarCoord& centre, double radius, const AstroTime& time)
+    {
+        Transformation view(Canvas.GetDC(), TRect(0, 0, 200, 200), centre, radius,
+                            PolarCoord(0.0, 90.0));
+        return Request(view, CatalogueSet(AstroCatalogue::PLANETS), time, 6.0);
+    }
+
+    SkyCanvas Canvas;
+    AstroList List{20, 10};
 };
 
 } // namespace
@@ -185,4 +216,53 @@ TEST_F(PlanetCatalogueTest, OptionsGoThroughSavedState)
     CmdLineStateContainer secondReader(second.GetCmdLine());
     secondReader >> AstroKey("Planets") >> restored;
     EXPECT_TRUE(restored.GetView(0)->IsLabeled(parameters));
+}
+
+TEST_F(PlanetRequestTest, NorthernSkyAtTheEpochHoldsJupiterAndSaturnOnly)
+{
+    // The bodies start at another time, so the Earth must take the request's time before
+    // Mercury and Venus are placed.
+    Planets.SetTime(AtCenturies(0.3));
+    // In January 2000 Jupiter and Saturn stood in Pisces and Aries, north of the equator;
+    // the Sun, the Moon and the other planets were south of it.
+    Planets.SatisfyRequest(Looking(PolarCoord(0.0, 90.0), 90.0, AtCenturies(0.0)), List);
+    EXPECT_EQ(Names(List), (std::vector<std::string>{"Jupiter", "Saturn"}));
+}
+
+TEST_F(PlanetRequestTest, BodyAtTheCentreGetsTheCentrePointAndOthersStayOut)
+{
+    const AstroTime epoch = AtCenturies(0.0);
+    Planets.SetTime(epoch);
+    PlanetView* moon = Planets.GetView(PlanetCatalogue::kMoonPlace);
+    Planets.SatisfyRequest(Looking(moon->GetPosition(), 5.0, epoch), List);
+    ASSERT_EQ(List.GetCount(), 1u);
+    EXPECT_EQ(List[0], moon);
+    EXPECT_EQ(moon->GetDisplayPoint(), TPoint(100, 100));
+}
+
+TEST_F(PlanetRequestTest, RequestSetsTheTimeOnEveryBodyAndNeverListsTheEarth)
+{
+    // From the south celestial pole outwards the whole sky is in view.
+    const AstroTime when = AtCenturies(-0.13);
+    for (const PolarCoord& centre : {PolarCoord(0.0, 90.0), PolarCoord(0.0, -90.0)}) {
+        Planets.SatisfyRequest(Looking(centre, 90.0, when), List);
+    }
+    for (unsigned i = 0; i < PlanetCatalogue::kViewCount; ++i) {
+        EXPECT_EQ(Planets.GetSolarSystemObject(i)->GetTime().GetMJD(), when.GetMJD()) << i;
+    }
+    // A body on the equator may be in both halves.
+    const std::vector<std::string> listed = Names(List);
+    const std::set<std::string> names(listed.begin(), listed.end());
+    EXPECT_EQ(names.size(), std::size_t(PlanetCatalogue::kViewCount - 1));
+    EXPECT_EQ(names.count("Earth"), 0u);
+    // Each listed body stands where the view puts its place.
+    for (const AstroObject* object : List) {
+        TPoint point;
+        Transformation(Canvas.GetDC(), TRect(0, 0, 200, 200),
+                       object->GetPosition().GetDec().GetDegrees() >= 0.0 ? PolarCoord(0.0, 90.0)
+                                                                          : PolarCoord(0.0, -90.0),
+                       90.0, PolarCoord(0.0, 90.0))
+            .Translate(object->GetPosition(), point);
+        EXPECT_EQ(object->GetDisplayPoint(), point) << object->GetListName();
+    }
 }
