@@ -8,7 +8,6 @@
 #include "catalogues/TextFile.h"
 #include "host/HostProf.h"
 #include "projection/ScrollTransformation.h"
-#include "solar/Earth200.h"
 
 namespace {
 
@@ -19,9 +18,11 @@ constexpr double kSameMagnitude = 0.0001;
 
 } // namespace
 
-AstroItemCollector::AstroItemCollector() : pEarth(std::make_unique<Earth200>())
+AstroItemCollector::AstroItemCollector() : pOrigin(Planets.GetOrigin())
 {
-    pOrigin = pEarth.get();
+    if (pOrigin != nullptr) {
+        Comets.SetOrigin(*pOrigin);
+    }
 }
 
 AstroItemCollector::~AstroItemCollector() = default;
@@ -59,8 +60,16 @@ bool AstroItemCollector::SatisfyRequest(Request& request, AstroList& list)
             pScrollCatalogue = nullptr;
         }
     }
-    // Constellations, planets, Messier objects and comets are asked here, in that order,
-    // once the collector holds them; the planets and comets also on a change of time alone.
+    // Constellations are asked here, unless the time alone changed, once the collector holds
+    // them.
+    if (request.GetCatalogues().Has(AstroCatalogue::PLANETS)) {
+        Planets.SatisfyRequest(request, list);
+    }
+    // Messier objects are asked here, unless the time alone changed, once the collector holds
+    // them.
+    if (request.GetCatalogues().Has(AstroCatalogue::COMETS)) {
+        Comets.SatisfyRequest(request, list);
+    }
 
     LastRequest = request;
     return true;

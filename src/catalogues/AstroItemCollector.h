@@ -2,9 +2,10 @@
 // Owns the catalogues and answers each draw's question: which objects can this view show?
 //
 // The answer fills an AstroList in drawing order: objects added from outside first, then
-// stars; constellations, planets, Messier objects and comets follow in that order as those
-// catalogues join the collector. Each request is compared with the last one answered, so an
-// unchanged view costs nothing and a change of time alone keeps everything that does not move.
+// stars, planets and comets; constellations (after the stars) and Messier objects (after the
+// planets) take their places in that order when those catalogues join the collector. Each request
+// is compared with the last one answered, so an unchanged view costs nothing and a change of time
+// alone keeps everything that does not move.
 //
 // Of the star catalogues the collector uses the shallowest that reaches the limiting
 // magnitude: with the shipped files the small bright-star file serves every view down to its
@@ -23,6 +24,8 @@
 #include "catalogues/PointerVector.h"
 #include "catalogues/Request.h"
 #include "catalogues/StarCatalogue.h"
+#include "solar/CometCatalogue.h"
+#include "solar/PlanetCatalogue.h"
 
 class AstroList;
 class AstroObject;
@@ -82,8 +85,10 @@ public:
     void RemoveAddedObject(AstroObject& object);
     const std::vector<AstroObject*>& GetAddedObjects() const { return AddedObjects; }
 
-    // The body the views are seen from: the Earth.
+    // The body the views are seen from: the Earth of the planet catalogue.
     SolarSystemObject* GetOrigin() const { return pOrigin; }
+    PlanetCatalogue& GetPlanetCatalogue() { return Planets; }
+    CometCatalogue& GetCometCatalogue() { return Comets; }
     // The catalogues, star files first in the order of their names, then the user's.
     const PointerVector<StarCatalogue>& GetStarCatalogues() const { return StarCatalogues; }
     const std::vector<std::string>& GetStarCatalogueFiles() const { return StarCatalogueFiles; }
@@ -102,9 +107,9 @@ private:
     std::size_t nFileCatalogues = 0;
     bool bFileCataloguesMade = false;
 
-    // The planet, Messier, constellation and comet catalogues take their places here, and the
-    // Earth then comes from the planets.
-    std::unique_ptr<SolarSystemObject> pEarth;
+    // The Messier and constellation catalogues take their places beside these.
+    PlanetCatalogue Planets;
+    CometCatalogue Comets;
     SolarSystemObject* pOrigin = nullptr;
 
     std::vector<AstroObject*> AddedObjects;

@@ -6,6 +6,7 @@
 #include "catalogues/AstroItemCollector.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/Star.h"
+#include "host/HostProf.h"
 
 namespace {
 
@@ -50,6 +51,8 @@ protected:
     {
         dir.WriteText("orbiscope.ini", "[Orbiscope]\nBrightCat = " + bright +
                                            "\nLargeStarCatalogueFile = " + large + "\n");
+        // The collector's comets read the shared profile when it was made.
+        HostProfile().Reload();
     }
     void SetUp() override
     {
@@ -117,8 +120,42 @@ TEST_F(AstroItemCollectorTest, ShallowestCatalogueThatReachesTheLimitIsChosen)
     EXPECT_TRUE(Collector.SatisfyRequest(faint, List));
     EXPECT_EQ(Stars(), (std::vector<std::uint32_t>{10, 20}));
     EXPECT_EQ(faint.GetStarCatalogue(), deep);
+    // A request for the planets alone lists no star, only bodies that move.
     EXPECT_TRUE(Satisfy(Make(10, 9.0, kNoon, AstroCatalogue::PLANETS)));
-    EXPECT_TRUE(List.IsEmpty());
+    EXPECT_TRUE(Stars().empty());
+    for (AstroObject* object : List) {
+        EXPECT_TRUE(object->IsTimeDependent());
+    }
+}
+
+TEST_F(AstroItemCollectorTest, PlanetsAndCometsFollowTheStarsAndAreSeenFromTheEarth)
+{
+    ASSERT_NE(Collector.GetOrigin(), nullptr);
+    EXPECT_EQ(Collector.GetOrigin(),
+              Collector.GetPlanetCatalogue().GetSolarSystemObject(PlanetCatalogue::kEarthPlace));
+
+    // The whole sky: every body but the Earth, then both built-in comets, after the stars.
+    Request everything(
+        Screen.View(PolarCoord(0, 90), 90.0),
+        CatalogueSet(AstroCatalogue::STARS | AstroCatalogue::PLANETS | AstroCatalogue::COMETS),
+        kNoon, 9.0);
+    Request south(Screen.View(PolarCoord(0, -90), 90.0), everything.GetCatalogues(), kNoon, 9.0);
+    std::size_t bodies = 0;
+    for (Request* request : {&everything, &south}) {
+        List.Flush();
+        ASSERT_TRUE(Collector.SatisfyRequest(*request, List));
+        bool movingSeen = false;
+        for (AstroObject* object : List) {
+            if (object->IsTimeDependent()) {
+                movingSeen = true;
+                ++bodies;
+            } else {
+                EXPECT_FALSE(movingSeen) << "a star after a moving body";
+            }
+        }
+    }
+    // Ten bodies and two comets, each in one of the two hemispheres (or on the equator).
+    EXPECT_GE(bodies, 12u);
 }
 
 TEST_F(AstroItemCollectorTest, ChoiceIgnoresTheOrderOfTheFilesAndFilesThatAreMissing)

@@ -45,7 +45,7 @@ TEST(AstroObject, LaunchStringIsTheFirstLinkOfTheUid)
     SkyObjectProbe crab(TPoint(), false, nullptr, AstroObject::kUidBase + 101);
     EXPECT_EQ(crab.GetLaunchString(), "http://en.wikipedia.org/wiki/Crab_Nebula");
 
-    SkyObjectProbe unlinked(TPoint(), false, nullptr, AstroObject::kUidBase + 1000 + 151881);
+    SkyObjectProbe unlinked(TPoint(), false, nullptr, AstroObject::kUidBase + 1000 + 106);
     EXPECT_EQ(unlinked.GetLaunchString(), "");
     SkyObjectProbe noUid;
     EXPECT_EQ(noUid.GetLaunchString(), "");

@@ -1,0 +1,4 @@
+#include "solar/EarthView.h"
+
+EarthView::EarthView() : PlanetView(ObjectType::Planet, 302)
+{}

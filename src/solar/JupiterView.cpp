@@ -1,0 +1,4 @@
+#include "solar/JupiterView.h"
+
+JupiterView::JupiterView() : PlanetView(ObjectType::Planet, 304)
+{}

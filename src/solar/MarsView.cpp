@@ -1,0 +1,4 @@
+#include "solar/MarsView.h"
+
+MarsView::MarsView() : PlanetView(ObjectType::Planet, 303)
+{}

@@ -1,0 +1,4 @@
+#include "solar/MercuryView.h"
+
+MercuryView::MercuryView() : PlanetView(ObjectType::Planet, 300)
+{}

@@ -1,0 +1,4 @@
+#include "solar/NeptuneView.h"
+
+NeptuneView::NeptuneView() : PlanetView(ObjectType::Planet, 307)
+{}

@@ -1,0 +1,4 @@
+#include "solar/PlutoView.h"
+
+PlutoView::PlutoView() : PlanetView(ObjectType::Planet, 308)
+{}

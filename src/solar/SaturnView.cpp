@@ -1,0 +1,4 @@
+#include "solar/SaturnView.h"
+
+SaturnView::SaturnView(Sun200& sun) : PlanetView(ObjectType::Planet, 305), Body(sun)
+{}

@@ -1,0 +1,4 @@
+#include "solar/UranusView.h"
+
+UranusView::UranusView() : PlanetView(ObjectType::Planet, 306)
+{}

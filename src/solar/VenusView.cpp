@@ -1,0 +1,4 @@
+#include "solar/VenusView.h"
+
+VenusView::VenusView() : PlanetView(ObjectType::Planet, 301)
+{}
