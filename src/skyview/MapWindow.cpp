@@ -193,6 +193,7 @@ void MapWindow::DrawAll()
     // A map that was given no time opens at the present moment.
     if (bNearestDarkPending) {
         MakeTimeCurrent();
+        Collector.GetPlanetCatalogue().SetTime(Time);
         bNearestDarkPending = false;
     }
 
