@@ -218,7 +218,7 @@ void MapWindow::DrawAll()
     }
 
     // A new projection, and the parent hears of it.
-    if (bTransformationDirty) {
+    if (bTransformationDirty || !pTransformation) {
         pTransformation = std::make_unique<Transformation>(
             dc, rect, pOrientation->GetCenterOfView(), pOrientation->GetFieldRadius(),
             pOrientation->GetZenith());
