@@ -147,6 +147,11 @@ SdlBackend::~SdlBackend()
         SDL_FreeCursor(cursor);
     }
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    // With nothing else of SDL in use, SDL_Quit also lets go of what SDL opened along the way
+    // (its connection to the desktop bus, under X).
+    if (SDL_WasInit(SDL_INIT_EVERYTHING) == 0) {
+        SDL_Quit();
+    }
 }
 
 void SdlBackend::CreateNativeWindow(HWND window, const TRect& screenRect, const std::string& title,
@@ -262,6 +267,10 @@ void SdlBackend::Translate(const SDL_Event& event)
         return w ? w->ClientToScreen(TPoint(x, y)) : TPoint(x, y);
     };
     switch (event.type) {
+    case SDL_QUIT:
+        // The program is asked to end (a signal, or its last window closed).
+        system.PostQuitMessage(0);
+        break;
     case SDL_WINDOWEVENT: {
         HWND handle = HandleOf(event.window.windowID);
         if (!handle) {
