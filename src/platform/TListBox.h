@@ -88,6 +88,8 @@ private:
     int nSelection = -1;
     int nTop = 0;
     int nItemHeight = 0;
+    // The height the font or the master gives, measured once (0 until then).
+    mutable int nMeasuredHeight = 0;
     bool bTracking = false;
     TScrollBar* pScrollBar = nullptr;
 };

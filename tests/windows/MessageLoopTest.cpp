@@ -433,3 +433,66 @@ TEST_F(MessageLoop, WindowAndDesktopPicturesGoToPngFiles)
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(MessageLoop, TimerKilledByAnEarlierHandlerOfTheSameMomentDoesNotFire)
+{
+    class Killer : public Recorder
+    {
+    public:
+        const TResponseRow* Find(const TEventInfo& event) const override
+        {
+            static const TResponseTable table{EvRow<WM_TIMER, &Killer::EvKill>()};
+            const TResponseRow* row = table.Find(event);
+            return row ? row : Recorder::Find(event);
+        }
+        void EvKill(UINT id)
+        {
+            Log.push_back(std::to_string(id));
+            KillTimer(2);
+        }
+    };
+    Killer w;
+    w.Create();
+    w.SetTimer(1, 100);
+    w.SetTimer(2, 100);
+    Desk().AdvanceTime(250);
+    EXPECT_EQ(w.Log, (std::vector<std::string>{"1", "1"}));
+    w.KillTimer(1);
+}
+
+TEST_F(MessageLoop, DisabledAndHiddenWindowsTakeNoInput)
+{
+    Recorder w;
+    w.Create();
+    Pump();
+    w.EnableWindow(false);
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_TRUE(w.Log.empty());
+    w.EnableWindow(true);
+    w.Show(SW_HIDE);
+    EXPECT_FALSE(w.IsWindowVisible());
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_TRUE(w.Log.empty()) << "the click fell on the desktop";
+    w.Show(SW_SHOW);
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_EQ(w.Log.front(), "down 10,10");
+}
+
+TEST_F(MessageLoop, LoopRunsUntilQuitAndSaysWhenNothingCanCome)
+{
+    Recorder w;
+    w.Create();
+    w.PostMessage(kEcho, 1);
+    PostQuitMessage(5);
+    w.PostMessage(kEcho, 2);
+    EXPECT_EQ(WindowSystem::Get().Run(), 5);
+    EXPECT_EQ(std::count(w.Log.begin(), w.Log.end(), "echo 1"), 1);
+    EXPECT_EQ(std::count(w.Log.begin(), w.Log.end(), "echo 2"), 0) << "behind the quit";
+    // On the headless desktop nothing more can come: the loop returns rather than wait.
+    EXPECT_EQ(WindowSystem::Get().Run(), 0);
+    EXPECT_EQ(std::count(w.Log.begin(), w.Log.end(), "echo 2"), 1);
+}
+
+} // namespace
