@@ -55,7 +55,9 @@ int TListBox::GetItemHeight() const
     if (nItemHeight > 0) {
         return nItemHeight;
     }
-    if (nMeasuredHeight == 0) {
+    const LOGFONT& font = GetWindowFont().GetLogFont();
+    if (nMeasuredHeight == 0 || std::memcmp(&font, &MeasuredFont, sizeof(LOGFONT)) != 0) {
+        MeasuredFont = font;
         TMemoryDC dc;
         dc.SelectObject(GetWindowFont());
         if (pMaster) {
