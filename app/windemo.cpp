@@ -48,6 +48,9 @@ std::string At(const TWindow& window)
     return std::to_string(middle.x) + " " + std::to_string(middle.y);
 }
 
+// Posted by the dialog to itself at setup: it arrives once the dialog runs, as it is shown.
+constexpr UINT kAnnounce = WM_USER + 1;
+
 class DemoDialog : public TDialog
 {
 public:
@@ -62,11 +65,28 @@ public:
     {
         TDialog::SetupWindow();
         pName->SetText("Vega");
+        PostMessage(kAnnounce);
     }
     void CmOk() override
     {
         Name = pName->GetText();
         TDialog::CmOk();
+    }
+    // Says where the dialog and its OK button are on the screen.
+    LRESULT EvAnnounce(WPARAM, LPARAM)
+    {
+        TWindow* ok = ChildWithId(IDOK);
+        TRect r = GetWindowRect();
+        Say("dialog open " + std::to_string(r.left) + " " + std::to_string(r.top) + " " +
+            std::to_string(r.right) + " " + std::to_string(r.bottom) + " ok " +
+            (ok ? At(*ok) : std::string("0 0")));
+        return 0;
+    }
+    const TResponseRow* Find(const TEventInfo& event) const override
+    {
+        static const TResponseTable table{MsgRow<kAnnounce, &DemoDialog::EvAnnounce>()};
+        const TResponseRow* row = table.Find(event);
+        return row ? row : TDialog::Find(event);
     }
 };
 
@@ -84,7 +104,6 @@ public:
     TButton* pOpen;
     TColor Fill = TColor(0, 0, 128);
     int nTicks = 0;
-    bool bDialogOpen = false;
 
     void SetupWindow() override
     {
@@ -120,9 +139,7 @@ public:
     void CmOpen()
     {
         DemoDialog dialog(this);
-        bDialogOpen = true;
         int result = dialog.Execute();
-        bDialogOpen = false;
         Fill = result == IDOK ? TColor(0, 160, 0) : TColor(200, 0, 0);
         Invalidate();
         Say("dialog closed " + std::to_string(result) + " " + dialog.Name);
@@ -139,20 +156,6 @@ public:
         };
         const TResponseRow* row = table.Find(event);
         return row ? row : TWindow::Find(event);
-    }
-};
-
-// Says where the dialog's OK button is once the dialog is on the screen.
-class AnnouncingDialog
-{
-public:
-    static void Announce(TWindow& dialog)
-    {
-        TWindow* ok = dialog.ChildWithId(IDOK);
-        TRect r = dialog.GetWindowRect();
-        Say("dialog open " + std::to_string(r.left) + " " + std::to_string(r.top) + " " +
-            std::to_string(r.right) + " " + std::to_string(r.bottom) + " ok " +
-            (ok ? At(*ok) : std::string("0 0")));
     }
 };
 
@@ -182,7 +185,6 @@ int RunHeadless(const std::string& out)
     Say("ready");
     bool saved = false;
     desk.AnswerNextModal([&](TWindow& dialog) {
-        AnnouncingDialog::Announce(dialog);
         desk.AdvanceTime(1000);
         HeadlessBackend::TypeInto(dialog, kNameId, "Deneb");
         desk.AdvanceTime(0);
@@ -212,34 +214,7 @@ int RunOnDisplay()
         window.Create();
         WindowSystem::Get().ProcessAll();
         Say("ready");
-        // The dialog announces itself once it is shown, by a timer of its own first tick.
-        class Watcher : public TWindow
-        {
-        public:
-            explicit Watcher(DemoWindow& w) : TWindow(nullptr, "watcher"), Window(w)
-            {
-                Attr.Style &= ~WS_VISIBLE;
-            }
-            DemoWindow& Window;
-            bool bSaid = false;
-            LRESULT WindowProc(UINT msg, WPARAM wParam, LPARAM lParam) override
-            {
-                if (msg == WM_TIMER) {
-                    TWindow* active = GetWindowPtr(GetActiveWindow());
-                    bool open = active && active != &Window && Window.bDialogOpen;
-                    if (open && !bSaid) {
-                        AnnouncingDialog::Announce(*active);
-                    }
-                    bSaid = open;
-                    return 0;
-                }
-                return TWindow::WindowProc(msg, wParam, lParam);
-            }
-        } watcher(window);
-        watcher.Create();
-        watcher.SetTimer(1, 100);
         code = WindowSystem::Get().Run();
-        watcher.Destroy();
         window.Destroy();
     }
     WindowSystem::Get().SetBackend(std::make_unique<HeadlessBackend>());
