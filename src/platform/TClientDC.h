@@ -8,6 +8,8 @@ class TClientDC : public TDC
 {
 public:
     explicit TClientDC(DrawingTarget& target);
+    // The client area of the window of a handle; a handle of no window draws nowhere.
+    explicit TClientDC(HWND window);
     ~TClientDC() override;
 
 private:

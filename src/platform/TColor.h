@@ -44,6 +44,8 @@ public:
     static const TColor LtBlue;
     static const TColor LtMagenta;
     static const TColor LtCyan;
+    // No colour at all: a window with this background erases nothing.
+    static const TColor None;
 
 private:
     COLORREF Value;
@@ -59,3 +61,4 @@ inline const TColor TColor::LtYellow(255, 255, 0);
 inline const TColor TColor::LtBlue(0, 0, 255);
 inline const TColor TColor::LtMagenta(255, 0, 255);
 inline const TColor TColor::LtCyan(0, 255, 255);
+inline const TColor TColor::None(COLORREF(0xFF000000));

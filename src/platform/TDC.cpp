@@ -266,15 +266,29 @@ bool TDC::IsScaled() const
     return WindowExt != ViewportExt;
 }
 
+// Logical coordinates to surface pixels: the mapping, then the origin of the device area.
 TPoint TDC::ToDevice(long long x, long long y) const
 {
     if (!IsScaled()) {
-        return TPoint(ClampToDevice(x - WindowOrg.x + ViewportOrg.x),
-                      ClampToDevice(y - WindowOrg.y + ViewportOrg.y));
+        return TPoint(ClampToDevice(x - WindowOrg.x + ViewportOrg.x + Origin.x),
+                      ClampToDevice(y - WindowOrg.y + ViewportOrg.y + Origin.y));
     }
-    return TPoint(
-        ClampToDevice(MulDiv(x - WindowOrg.x, ViewportExt.cx, WindowExt.cx) + ViewportOrg.x),
-        ClampToDevice(MulDiv(y - WindowOrg.y, ViewportExt.cy, WindowExt.cy) + ViewportOrg.y));
+    return TPoint(ClampToDevice(MulDiv(x - WindowOrg.x, ViewportExt.cx, WindowExt.cx) +
+                                ViewportOrg.x + Origin.x),
+                  ClampToDevice(MulDiv(y - WindowOrg.y, ViewportExt.cy, WindowExt.cy) +
+                                ViewportOrg.y + Origin.y));
+}
+
+void TDC::SetDeviceArea(const TPoint& origin, const TRect& visible)
+{
+    Origin = origin;
+    Visible = visible;
+}
+
+void TDC::LimitDeviceArea(const TRect& deviceRect)
+{
+    TRect limit = deviceRect.OffsetBy(Origin.x, Origin.y);
+    Visible = Visible ? (*Visible & limit) : limit;
 }
 
 TRect TDC::ToDevice(long long x1, long long y1, long long x2, long long y2) const
@@ -294,7 +308,7 @@ bool TDC::LPtoDP(TPoint* points, int count) const
         return false;
     }
     for (int i = 0; i < count; ++i) {
-        points[i] = ToDevice(points[i].x, points[i].y);
+        points[i] = ToDevice(points[i].x, points[i].y) - Origin;
     }
     return true;
 }
@@ -332,12 +346,15 @@ int TDC::SelectClipRgn(std::nullptr_t)
 TRect TDC::DeviceClip() const
 {
     TRect bounds = pSurface->Bounds();
-    return ClipRect ? (*ClipRect & bounds) : bounds;
+    if (Visible) {
+        bounds = bounds & *Visible;
+    }
+    return ClipRect ? (ClipRect->OffsetBy(Origin.x, Origin.y) & bounds) : bounds;
 }
 
 TRect TDC::GetClipBox() const
 {
-    TRect clip = DeviceClip();
+    TRect clip = DeviceClip().OffsetBy(-Origin.x, -Origin.y);
     TPoint corners[2] = {clip.TopLeft(), clip.BottomRight()};
     DPtoLP(corners, 2);
     return TRect(corners[0], corners[1]).Normalized();

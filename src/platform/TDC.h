@@ -206,6 +206,12 @@ public:
 protected:
     // For memory contexts: no surface of their own until a bitmap is selected.
     TDC(const DeviceCaps& caps, std::shared_ptr<GdiBitmap> stockBitmap);
+    // Puts device pixel (0, 0) at `origin` on the surface and keeps all drawing inside
+    // `visible` (surface pixels), whatever clip region is selected: the client area of a
+    // window. Device coordinates, clip regions included, then count from `origin`.
+    void SetDeviceArea(const TPoint& origin, const TRect& visible);
+    // Narrows the area that can be drawn on, in device coordinates (a paint's invalid part).
+    void LimitDeviceArea(const TRect& deviceRect);
 
 private:
     bool IsScaled() const;
@@ -254,4 +260,8 @@ private:
     TSize WindowExt;
     TSize ViewportExt;
     std::optional<TRect> ClipRect;
+    // Where device (0, 0) lies on the surface, and the part of the surface the context may
+    // touch, in surface pixels.
+    TPoint Origin;
+    std::optional<TRect> Visible;
 };

@@ -63,6 +63,18 @@ public:
                 std::min(bottom, other.bottom));
         return r.IsEmpty() ? TRect() : r;
     }
+    // The smallest rectangle holding both; an empty rectangle adds nothing.
+    constexpr TRect operator|(const TRect& other) const
+    {
+        if (IsEmpty()) {
+            return other.IsEmpty() ? TRect() : other;
+        }
+        if (other.IsEmpty()) {
+            return *this;
+        }
+        return TRect(std::min(left, other.left), std::min(top, other.top),
+                     std::max(right, other.right), std::max(bottom, other.bottom));
+    }
     constexpr bool operator==(const TRect& other) const
     {
         return left == other.left && top == other.top && right == other.right &&
