@@ -89,21 +89,6 @@ TEST(LabelCandidates, SixPlacesOnEachRingAndTwoOnTheFourth)
     EXPECT_EQ(LabelManager::Candidate(0, anchor, size, 20, 3).TopLeft(), TPoint(123, 93));
 }
 
-TEST(LabelRectangles, OverlapIsStrictAndEmptyRectanglesMeetNothing)
-{
-    const TRect a(10, 10, 20, 20);
-    EXPECT_TRUE(LabelManager::Overlaps(a, TRect(19, 19, 30, 30)));
-    EXPECT_FALSE(LabelManager::Overlaps(a, TRect(20, 10, 30, 20))); // touches the right edge
-    EXPECT_FALSE(LabelManager::Overlaps(a, TRect(10, 0, 20, 10)));  // touches the top edge
-    EXPECT_TRUE(LabelManager::Overlaps(a, TRect(12, 12, 14, 14)));  // inside
-    EXPECT_FALSE(LabelManager::Overlaps(TRect(-5, -5, 5, 5), TRect()));
-    EXPECT_FALSE(LabelManager::Overlaps(TRect(), TRect(-5, -5, 5, 5)));
-
-    EXPECT_TRUE(LabelManager::Contains(a, a));
-    EXPECT_FALSE(LabelManager::Contains(a, TRect(10, 10, 21, 20)));
-    EXPECT_FALSE(LabelManager::Contains(a, TRect(9, 10, 20, 20)));
-}
-
 TEST_F(LabelManagerTest, FreeStarHasItsTextSixPixelsRightCentredWithALineFromTheLeftEdge)
 {
     MarkedObject& star = Add(TPoint(100, 100), "X");
