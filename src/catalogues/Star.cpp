@@ -12,6 +12,7 @@
 #include "host/HostFile.h"
 #include "platform/DebugStream.h"
 #include "skyview/DisplayParameters.h"
+#include "skyview/Label.h"
 #include "skyview/StarDrawing.h"
 
 namespace {
@@ -179,11 +180,20 @@ void Star::Copy(const Star& other)
     Magnitude = other.Magnitude;
     Position = other.Position;
     pName = other.pName ? std::make_unique<std::string>(*other.pName) : nullptr;
+    ForgetLabel();
+}
+
+void Star::ForgetLabel()
+{
+    pLabel.reset();
+    nLabelType = StarDisplayParameters::kNoLabels;
 }
 
 void Star::SetName(const std::string& name)
 {
     pName = name.empty() ? nullptr : std::make_unique<std::string>(name);
+    // A label would show the old name.
+    ForgetLabel();
 }
 
 bool Star::Initialize(const LorvString& line)
@@ -242,6 +252,9 @@ const void* Star::Load(const void* buffer)
     } else {
         pName.reset();
     }
+    if (pLabel) {
+        ForgetLabel();
+    }
     return p + p[0];
 }
 
@@ -297,6 +310,33 @@ bool Star::IsLabeled(const DisplayParameters& parameters) const
 {
     return parameters.GetLabelType() == StarDisplayParameters::kPopularNameLabels &&
            Magnitude <= parameters.GetLimitingMagnitudeLabels() && HasName();
+}
+
+Label* Star::GetLabel(DisplayParameters& parameters)
+{
+    const std::uint32_t type = parameters.GetLabelType();
+    if (type == StarDisplayParameters::kNoLabels || parameters.pDC == nullptr) {
+        return nullptr;
+    }
+    FontRef* font = StarDisplayParameters::GetLabelFontRef(*parameters.pDC);
+    if (pLabel && type == nLabelType && pLabel->GetFontRef() == font) {
+        return pLabel.get();
+    }
+    pLabel.reset();
+    if (type == StarDisplayParameters::kPopularNameLabels && pName) {
+        pLabel = std::make_unique<Label>(*pName, *this, *font,
+                                         parameters.IsPrinting() ? TColor::Black : TColor::White);
+    }
+    nLabelType = type;
+    return pLabel.get();
+}
+
+void Star::SetDisplayPoint(const TPoint& point)
+{
+    DisplayPoint = point;
+    if (pLabel) {
+        pLabel->UpdateObjectPoint();
+    }
 }
 
 std::uint32_t Star::GetUid() const

@@ -25,6 +25,7 @@
 #include "platform/TPoint.h"
 
 class HostFile;
+class Label;
 
 class Star : public AstroObject
 {
@@ -72,7 +73,8 @@ public:
     Star(const Star& other);
     ~Star() override;
 
-    // Copies SAO number, magnitude, position and name; the display caches stay.
+    // Copies SAO number, magnitude, position and name and forgets the cached label; the display
+    // point and the other display caches stay.
     void Copy(const Star& other);
 
     // Fills the star from a text line. On failure the star is left as it was: a missing SAO
@@ -101,10 +103,16 @@ public:
     PolarCoord GetPosition() const override { return Position; }
     double GetMagnitude() const override { return Magnitude; }
     const TPoint& GetDisplayPoint() const override { return DisplayPoint; }
-    void SetDisplayPoint(const TPoint& point) override { DisplayPoint = point; }
+    // Stores the point and moves the cached label's line end with it.
+    void SetDisplayPoint(const TPoint& point) override;
     bool IsTimeDependent() const override { return false; }
     // With popular-name labels, a named star no fainter than the label limit.
     bool IsLabeled(const DisplayParameters& parameters) const override;
+    // The star's own label for the parameters: its name in the star label font of the
+    // parameters' surface, white, or black on paper. Kept while the label type and the font
+    // stay; null without popular-name labels, without a name or without a surface. With label
+    // type "None" the cached label is kept for later.
+    Label* GetLabel(DisplayParameters& parameters) override;
     // 0x70000000 + 1000 + the SAO number.
     std::uint32_t GetUid() const override;
     void Draw(TDC& dc, DisplayParameters& parameters) override;
@@ -132,13 +140,22 @@ public:
     std::uint32_t GetPaletteIndex() const { return nPaletteIndex; }
     TColor GetColor() const { return Color; }
 
+    // The label made by the last GetLabel and the label type it was made for; null and 0
+    // when there is none.
+    const Label* GetCachedLabel() const { return pLabel.get(); }
+    std::uint32_t GetCachedLabelType() const { return nLabelType; }
+
 private:
+    // A new name, without the label made for the old one.
     void SetName(const std::string& name);
+    void ForgetLabel();
 
     std::uint32_t nSAONumber = 0;
     double Magnitude = 99.9;
     PolarCoord Position;
     std::unique_ptr<std::string> pName;
+    std::unique_ptr<Label> pLabel;
+    std::uint32_t nLabelType = 0;
     TPoint DisplayPoint;
     bool bScrollCacheValid = false;
     RectCoord ScrollCache;

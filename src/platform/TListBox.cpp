@@ -55,14 +55,20 @@ int TListBox::GetItemHeight() const
     if (nItemHeight > 0) {
         return nItemHeight;
     }
-    TMemoryDC dc;
-    dc.SelectObject(GetWindowFont());
-    if (pMaster) {
-        return std::max(1, pMaster->GetItemHeight(dc));
+    const LOGFONT& font = GetWindowFont().GetLogFont();
+    if (nMeasuredHeight == 0 || std::memcmp(&font, &MeasuredFont, sizeof(LOGFONT)) != 0) {
+        MeasuredFont = font;
+        TMemoryDC dc;
+        dc.SelectObject(GetWindowFont());
+        if (pMaster) {
+            nMeasuredHeight = std::max(1, pMaster->GetItemHeight(dc));
+        } else {
+            TEXTMETRIC metrics{};
+            dc.GetTextMetrics(metrics);
+            nMeasuredHeight = metrics.tmHeight + 2;
+        }
     }
-    TEXTMETRIC metrics{};
-    dc.GetTextMetrics(metrics);
-    return metrics.tmHeight + 2;
+    return nMeasuredHeight;
 }
 
 void TListBox::SetItemHeight(int height)
@@ -310,6 +316,7 @@ int TListBox::SetItemData(int index, LPARAM data)
 void TListBox::SetItemMaster(TListBoxItemMaster* master)
 {
     pMaster = master;
+    nMeasuredHeight = 0;
     Reset();
 }
 
@@ -388,6 +395,11 @@ LRESULT TListBox::DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
         return row < 0 ? MAKELPARAM(0, 1) : row;
     }
     case WM_SIZE:
+        UpdateScrollBar();
+        return 0;
+    case WM_SETFONT:
+        nMeasuredHeight = 0;
+        TControl::DefWindowProc(msg, wParam, lParam);
         UpdateScrollBar();
         return 0;
     case WM_LBUTTONDOWN: {

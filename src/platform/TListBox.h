@@ -88,6 +88,9 @@ private:
     int nSelection = -1;
     int nTop = 0;
     int nItemHeight = 0;
+    // The height the font or the master gives, measured once for a font (0 until then).
+    mutable int nMeasuredHeight = 0;
+    mutable LOGFONT MeasuredFont{};
     bool bTracking = false;
     TScrollBar* pScrollBar = nullptr;
 };

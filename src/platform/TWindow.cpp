@@ -74,6 +74,7 @@ void TWindow::RemoveChild(TWindow& child)
 {
     std::erase(aChildren, &child);
     child.Parent = nullptr;
+    ChildGone(child);
 }
 
 // Life.

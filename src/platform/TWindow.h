@@ -201,6 +201,8 @@ protected:
     // The cursor shown when none is set: the arrow, or another for a kind of control.
     virtual int GetDefaultCursor() const { return IDC_ARROW; }
 
+    // Tells the window that a child object has gone (it is being deleted).
+    virtual void ChildGone(TWindow&) {}
     // Puts the children in this order (of painting, of tabbing); windows not among them stay
     // behind the others.
     void ReorderChildren(const std::vector<TWindow*>& order);

@@ -13,6 +13,12 @@ TWindow* W(HWND window)
     return WindowSystem::Get().FindWindow(window);
 }
 
+WinHelpHandler& HelpHandler()
+{
+    static WinHelpHandler handler;
+    return handler;
+}
+
 TWindow* Item(HWND parent, int id)
 {
     TWindow* p = W(parent);
@@ -383,4 +389,25 @@ short GetKeyState(int virtualKey)
 DWORD GetTickCount()
 {
     return WindowSystem::Get().Now();
+}
+
+WinHelpHandler SetWinHelpHandler(WinHelpHandler handler)
+{
+    WinHelpHandler before = std::move(HelpHandler());
+    HelpHandler() = std::move(handler);
+    return before;
+}
+
+BOOL WinHelpA(HWND window, const char* helpFile, UINT command, UINT_PTR data)
+{
+    if (!HelpHandler()) {
+        return FALSE;
+    }
+    std::string key;
+    if (command == HELP_KEY && data) {
+        key = reinterpret_cast<const char*>(data);
+    } else if (command == HELP_CONTEXT) {
+        key = std::to_string(data);
+    }
+    return HelpHandler()(window, helpFile ? helpFile : "", command, key);
 }

@@ -2,6 +2,7 @@
 // The window calls in their plain form, on handles, for code written against them. Each does
 // what the TWindow member of the same name does; a handle of no window makes them fail (false,
 // 0 or null) and do nothing.
+#include <functional>
 #include <string>
 
 #include "platform/TRect.h"
@@ -71,3 +72,12 @@ BOOL GetCursorPos(POINT* point);
 short GetKeyState(int virtualKey);
 // Milliseconds on the window system's clock (virtual time on the headless desktop).
 DWORD GetTickCount();
+
+// Help: the host shows its help file. WinHelpA hands the request to the handler the host has
+// installed (the file, the command HELP_KEY, HELP_CONTEXT or HELP_QUIT, and the key as text
+// or the context number written out) and returns what it says; FALSE without a handler.
+using WinHelpHandler =
+    std::function<bool(HWND window, const std::string& file, UINT command, const std::string& key)>;
+// Installs a handler; returns the one before. An empty function removes it.
+WinHelpHandler SetWinHelpHandler(WinHelpHandler handler);
+BOOL WinHelpA(HWND window, const char* helpFile, UINT command, UINT_PTR data);

@@ -447,9 +447,10 @@ bool WindowSystem::PaintTree(TWindow& window, TRect& painted)
         }
     }
     for (TWindow* child : std::vector<TWindow*>(window.aChildren)) {
-        if (child->HWindow && !child->IsTopLevel() &&
-            std::find(window.aChildren.begin(), window.aChildren.end(), child) !=
-                window.aChildren.end()) {
+        // A child that an earlier paint took away is not looked at.
+        bool still = std::find(window.aChildren.begin(), window.aChildren.end(), child) !=
+                     window.aChildren.end();
+        if (still && child->HWindow && !child->IsTopLevel()) {
             did = PaintTree(*child, painted) || did;
         }
     }
@@ -512,11 +513,12 @@ void WindowSystem::PaintOne(TWindow& window, TRect& painted)
     window.PaintRect = onSurface.OffsetBy(-origin.x, -origin.y);
     window.bPaintErase = erase;
     HWND handle = window.HWindow;
+    HWND topHandle = top->HWindow;
     Dispatch(window, WM_PAINT, 0, 0);
     if (FindWindow(handle)) {
         window.PaintRect = TRect();
     }
-    if (FindWindow(top->HWindow) && top->pSurface.get() == &surface) {
+    if (FindWindow(topHandle) == top && top->pSurface.get() == &surface) {
         for (const Kept& k : kept) {
             CopyPixels(*k.Pixels, k.Pixels->Bounds(), surface, k.Rect.TopLeft());
         }

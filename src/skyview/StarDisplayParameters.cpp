@@ -1,9 +1,12 @@
 #include "skyview/StarDisplayParameters.h"
 
 #include <cmath>
+#include <memory>
 
 #include "platform/DeviceCaps.h"
 #include "platform/TDC.h"
+#include "platform/TFont.h"
+#include "skyview/FontRef.h"
 #include "state/StateContainer.h"
 
 namespace {
@@ -12,6 +15,8 @@ namespace {
 constexpr std::uint32_t kSmallestStarPixels = 2;
 // Magnitude spans narrower than this count as none.
 constexpr double kSmallestMagnitudeSpan = 0.001;
+// Height of star labels in inches.
+constexpr double kLabelHeightInches = 0.14;
 
 // Inches to whole pixels, rounded half up.
 std::uint32_t InchesToPixels(double inches, int dotsPerInch)
@@ -87,6 +92,26 @@ unsigned StarDisplayParameters::GetIntensityFromMagnitude(double magnitude) cons
     }
     // On paper stars are dark on white.
     return value >= IntensityRange.Upper ? 0 : IntensityRange.Upper - value;
+}
+
+FontRef* StarDisplayParameters::psLabelFontRef = nullptr;
+int StarDisplayParameters::nDCScaleForCurrentFont = 0;
+
+FontRef* StarDisplayParameters::GetLabelFontRef(const TDC& dc)
+{
+    const int dotsPerInch = dc.GetDeviceCaps(LOGPIXELSY);
+    if (psLabelFontRef != nullptr && dotsPerInch == nDCScaleForCurrentFont) {
+        return psLabelFontRef;
+    }
+    // The old font goes only with the last label that holds it.
+    if (psLabelFontRef != nullptr) {
+        psLabelFontRef->Release();
+    }
+    const int height = int(std::trunc(dotsPerInch * kLabelHeightInches));
+    psLabelFontRef = new FontRef(std::make_unique<TFont>(
+        "Arial", height, 0, 0, 0, FW_NORMAL, 0, false, false, false, DEFAULT_CHARSET, 0, 0, 0));
+    nDCScaleForCurrentFont = dotsPerInch;
+    return psLabelFontRef;
 }
 
 void StarDisplayParameters::GetLabelTypeNames(std::vector<std::string>& names)

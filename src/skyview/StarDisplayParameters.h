@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+class FontRef;
 class StateContainer;
 class TDC;
 
@@ -57,6 +58,12 @@ public:
     // Appends the names of the label types in their order: "None", "Popular Name".
     static void GetLabelTypeNames(std::vector<std::string>& names);
 
+    // The font of star labels for the vertical resolution of `dc`: "Arial", 0.14 inch high.
+    // One FontRef serves all stars until a surface of another resolution asks; then a new one
+    // is made and the old one stays alive for as long as labels hold it. Labels compare this
+    // pointer with their own to know whether they are still current.
+    static FontRef* GetLabelFontRef(const TDC& dc);
+
     // Every member, the worked-out ones too.
     void Copy(const StarDisplayParameters& other) { *this = other; }
 
@@ -94,6 +101,11 @@ public:
     double LimitingMagnitudeLabels = 2.0;
     // Drawing for a printer, on white: intensities are inverted and labels are black.
     bool bPrinting = false;
+
+private:
+    // The shared label font and the vertical resolution it was made for; null and 0 at first.
+    static FontRef* psLabelFontRef;
+    static int nDCScaleForCurrentFont;
 };
 
 // State: a level at the caller's key with "Limiting Magnitude", "Size Magnitude Range",

@@ -1,10 +1,32 @@
 #include "solar/PlanetView.h"
 
+#include <cmath>
+
 #include "catalogues/LorvString.h"
+#include "platform/TDC.h"
+#include "platform/TFont.h"
 #include "skyview/DisplayParameters.h"
+#include "skyview/FontRef.h"
+#include "skyview/Label.h"
 #include "skyview/StarDrawing.h"
 #include "solar/SeriesMath.h"
 #include "solar/SolarSystemObject.h"
+
+namespace {
+
+// Height of planet labels in inches.
+constexpr double kLabelHeightInches = 0.16;
+
+} // namespace
+
+FontRef* PlanetView::psLabelFontRef = nullptr;
+int PlanetView::nLabelFontResolution = 0;
+
+PlanetView::PlanetView(ObjectType type, std::uint32_t uidOffset)
+    : AstroObject(type), nUidOffset(uidOffset)
+{}
+
+PlanetView::~PlanetView() = default;
 
 bool PlanetView::IsVisible() const
 {
@@ -34,6 +56,41 @@ void PlanetView::SetTime(const AstroTime& time)
 bool PlanetView::IsLabeled(const DisplayParameters& /*parameters*/) const
 {
     return bShowLabel;
+}
+
+Label* PlanetView::GetLabel(DisplayParameters& parameters)
+{
+    if (parameters.pDC == nullptr) {
+        return nullptr;
+    }
+    const int resolution = parameters.pDC->GetDeviceCaps(LOGPIXELSY);
+    if (psLabelFontRef == nullptr || resolution != nLabelFontResolution) {
+        // Labels that hold the old font keep it alive until they go.
+        if (psLabelFontRef != nullptr) {
+            psLabelFontRef->Release();
+        }
+        const int height = int(std::trunc(resolution * kLabelHeightInches));
+        psLabelFontRef =
+            new FontRef(std::make_unique<TFont>("Times New Roman", height, 0, 0, 0, FW_NORMAL, 0,
+                                                false, false, false, DEFAULT_CHARSET));
+        nLabelFontResolution = resolution;
+    }
+    if (pLabel && pLabel->GetFontRef() != psLabelFontRef) {
+        pLabel.reset();
+    }
+    if (!pLabel) {
+        pLabel = std::make_unique<Label>(GetListName(), *this, *psLabelFontRef,
+                                         parameters.IsPrinting() ? TColor::Black : TColor::White);
+    }
+    return pLabel.get();
+}
+
+void PlanetView::SetDisplayPoint(const TPoint& point)
+{
+    displayPoint = point;
+    if (pLabel) {
+        pLabel->UpdateObjectPoint();
+    }
 }
 
 void PlanetView::Draw(TDC& /*dc*/, DisplayParameters& parameters)

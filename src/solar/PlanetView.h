@@ -10,16 +10,19 @@
 // A planet is drawn as a star of its magnitude; the Sun, the Moon and the comets draw
 // themselves otherwise.
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "catalogues/AstroObject.h"
 
+class FontRef;
+class Label;
 class SolarSystemObject;
 
 class PlanetView : public AstroObject
 {
 public:
-    ~PlanetView() override = default;
+    ~PlanetView() override;
 
     // False for the body the observer stands on.
     bool IsVisible() const override;
@@ -33,9 +36,15 @@ public:
     bool IsTimeDependent() const override { return true; }
     // The catalogue's label option as last handed down.
     bool IsLabeled(const DisplayParameters& parameters) const override;
+    // The view's own label: the body's name in "Times New Roman", 0.16 inch high on the
+    // parameters' surface, white, or black when made for paper. All bodies share one font;
+    // a surface of another resolution makes a new one, and each label is made anew once it
+    // holds a font that is no longer the shared one. Null without a surface.
+    Label* GetLabel(DisplayParameters& parameters) override;
     // 0x70000000 plus the offset that tells the body.
     std::uint32_t GetUid() const override { return kUidBase + nUidOffset; }
-    void SetDisplayPoint(const TPoint& point) override { displayPoint = point; }
+    // Stores the point and moves the label's line end with it.
+    void SetDisplayPoint(const TPoint& point) override;
     // A star of the body's magnitude, worked out anew on every draw.
     void Draw(TDC& dc, DisplayParameters& parameters) override;
     bool HasListName() const override { return true; }
@@ -57,15 +66,21 @@ public:
     SolarSystemObject* GetOrigin() const { return origin; }
     // The catalogue hands its label option down through this.
     void SetShowLabel(bool show) { bShowLabel = show; }
+    // The label made by the last GetLabel, or null.
+    const Label* GetCachedLabel() const { return pLabel.get(); }
 
 protected:
-    PlanetView(ObjectType type, std::uint32_t uidOffset) : AstroObject(type), nUidOffset(uidOffset)
-    {}
+    PlanetView(ObjectType type, std::uint32_t uidOffset);
 
     SolarSystemObject* origin = nullptr;
     TPoint displayPoint;
     bool bShowLabel = false;
+    std::unique_ptr<Label> pLabel;
 
 private:
+    // The label font of all bodies and the vertical resolution it was made for.
+    static FontRef* psLabelFontRef;
+    static int nLabelFontResolution;
+
     std::uint32_t nUidOffset;
 };

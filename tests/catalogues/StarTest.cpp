@@ -6,7 +6,12 @@
 
 #include "catalogues/Star.h"
 #include "platform/DebugStream.h"
+#include "platform/Surface.h"
+#include "platform/TDC.h"
 #include "skyview/DisplayParameters.h"
+#include "skyview/FontRef.h"
+#include "skyview/Label.h"
+#include "skyview/SkyCanvas.h"
 
 namespace {
 
@@ -263,4 +268,108 @@ TEST(Star, SecondsThatRoundToSixtyAreWrittenAsTheNextMinute)
     line.pop_back();
     ASSERT_TRUE(back.Initialize(line));
     EXPECT_NEAR(back.GetPosition().GetRA().GetDegrees(), 0.0, 1e-6);
+}
+
+// ---- Labels ----
+
+namespace {
+
+// A named star on a 96-dpi canvas with popular-name labels.
+class StarLabelTest : public ::testing::Test
+{
+protected:
+    StarLabelTest() : Canvas(64, 64), Vega(67174, 0.03, PolarCoord(279.234, 38.784), "Vega")
+    {
+        Canvas.Parameters.SetLabelType(StarDisplayParameters::kPopularNameLabels);
+        Vega.SetDisplayPoint(TPoint(30, 40));
+    }
+
+    SkyCanvas Canvas;
+    Star Vega;
+};
+
+} // namespace
+
+TEST_F(StarLabelTest, LabelIsTheNameInTheSharedStarFontAtTheStarsPoint)
+{
+    Label* label = Vega.GetLabel(Canvas.Parameters);
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->GetText(), "Vega");
+    EXPECT_EQ(label->GetObject(), &Vega);
+    EXPECT_EQ(label->GetObjectPoint(), TPoint(30, 40));
+    EXPECT_EQ(label->GetColor(), TColor::White);
+    EXPECT_FALSE(label->IsFixed());
+    EXPECT_EQ(label->GetFontRef(), StarDisplayParameters::GetLabelFontRef(Canvas.GetDC()));
+    EXPECT_EQ(Vega.GetCachedLabelType(), StarDisplayParameters::kPopularNameLabels);
+
+    // Kept while type and font stay; it follows the star when the star moves.
+    EXPECT_EQ(Vega.GetLabel(Canvas.Parameters), label);
+    Vega.SetDisplayPoint(TPoint(12, 8));
+    EXPECT_EQ(label->GetObjectPoint(), TPoint(12, 8));
+}
+
+TEST_F(StarLabelTest, PrinterOfAnotherResolutionMakesABlackLabelInItsFont)
+{
+    const Label* screen = Vega.GetLabel(Canvas.Parameters);
+    ASSERT_NE(screen, nullptr);
+
+    Surface page(8, 8, PixelFormat::Rgb32);
+    DeviceCaps printerCaps;
+    printerCaps.LogPixelsX = printerCaps.LogPixelsY = 600;
+    TDC printer(page, printerCaps);
+    DisplayParameters printing(Canvas.Parameters);
+    printing.pDC = &printer;
+    printing.SetPrinting(true);
+    const Label* paper = Vega.GetLabel(printing);
+    ASSERT_NE(paper, nullptr);
+    EXPECT_EQ(paper->GetColor(), TColor::Black);
+    EXPECT_EQ(paper->GetFontRef()->GetFont().GetHeight(), 84); // 0.14 inch at 600 dpi
+
+    const Label* again = Vega.GetLabel(Canvas.Parameters);
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(again->GetColor(), TColor::White);
+    EXPECT_EQ(again->GetFontRef()->GetFont().GetHeight(), 13);
+}
+
+TEST_F(StarLabelTest, LabelTypeNoneGivesNothingButKeepsTheLabelForLater)
+{
+    const Label* label = Vega.GetLabel(Canvas.Parameters);
+    ASSERT_NE(label, nullptr);
+    Canvas.Parameters.SetLabelType(StarDisplayParameters::kNoLabels);
+    EXPECT_EQ(Vega.GetLabel(Canvas.Parameters), nullptr);
+    EXPECT_EQ(Vega.GetCachedLabel(), label);
+    Canvas.Parameters.SetLabelType(StarDisplayParameters::kPopularNameLabels);
+    EXPECT_EQ(Vega.GetLabel(Canvas.Parameters), label);
+}
+
+TEST_F(StarLabelTest, NoLabelWithoutANameAnUnknownTypeOrASurface)
+{
+    Star unnamed(67175, 0.5, PolarCoord());
+    EXPECT_EQ(unnamed.GetLabel(Canvas.Parameters), nullptr);
+
+    // An unknown type, from a damaged bookmark, drops the label and is remembered.
+    ASSERT_NE(Vega.GetLabel(Canvas.Parameters), nullptr);
+    Canvas.Parameters.SetLabelType(2);
+    EXPECT_EQ(Vega.GetLabel(Canvas.Parameters), nullptr);
+    EXPECT_EQ(Vega.GetCachedLabel(), nullptr);
+    EXPECT_EQ(Vega.GetCachedLabelType(), 2u);
+
+    Canvas.Parameters.SetLabelType(StarDisplayParameters::kPopularNameLabels);
+    DisplayParameters noSurface(Canvas.Parameters);
+    noSurface.pDC = nullptr;
+    EXPECT_EQ(Vega.GetLabel(noSurface), nullptr);
+}
+
+TEST_F(StarLabelTest, CopyAndANewNameForgetTheLabel)
+{
+    ASSERT_NE(Vega.GetLabel(Canvas.Parameters), nullptr);
+    Vega.Copy(Star(91262, 0.08, PolarCoord(79.172, 45.998), "Capella"));
+    EXPECT_EQ(Vega.GetCachedLabel(), nullptr);
+    EXPECT_EQ(Vega.GetCachedLabelType(), 0u);
+    EXPECT_EQ(Vega.GetDisplayPoint(), TPoint(30, 40));
+    EXPECT_EQ(Vega.GetLabel(Canvas.Parameters)->GetText(), "Capella");
+
+    ASSERT_TRUE(Vega.Initialize("67174,0.03,18,36,56.3,+,38,47,1,a,b,c,Wega"));
+    EXPECT_EQ(Vega.GetCachedLabel(), nullptr);
+    EXPECT_EQ(Vega.GetLabel(Canvas.Parameters)->GetText(), "Wega");
 }

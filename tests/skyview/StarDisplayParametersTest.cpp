@@ -4,6 +4,9 @@
 
 #include "platform/Surface.h"
 #include "platform/TDC.h"
+#include "platform/TFont.h"
+#include "skyview/FontRef.h"
+#include "skyview/Label.h"
 #include "skyview/StarDisplayParameters.h"
 #include "state/CmdLineStateContainer.h"
 
@@ -185,4 +188,37 @@ TEST(StarDisplayParameters, LabelTypeNamesAreAppended)
     std::vector<std::string> names = {"first"};
     StarDisplayParameters::GetLabelTypeNames(names);
     EXPECT_EQ(names, (std::vector<std::string>{"first", "None", "Popular Name"}));
+}
+
+TEST(StarLabelFont, ArialFourteenHundredthsOfAnInchKeptUntilTheResolutionChanges)
+{
+    Surface surface(4, 4, PixelFormat::Indexed8);
+    TDC screen(surface, DeviceCaps{});
+    DeviceCaps printerCaps;
+    printerCaps.LogPixelsX = printerCaps.LogPixelsY = 600;
+    TDC printer(surface, printerCaps);
+
+    FontRef* font = StarDisplayParameters::GetLabelFontRef(screen);
+    ASSERT_NE(font, nullptr);
+    EXPECT_EQ(StarDisplayParameters::GetLabelFontRef(screen), font);
+    LOGFONT description{};
+    ASSERT_TRUE(font->GetFont().GetObject(description));
+    EXPECT_EQ(font->GetFont().GetFaceName(), "Arial");
+    EXPECT_EQ(description.lfHeight, 13); // 96 * 0.14 = 13.44
+    EXPECT_EQ(description.lfWeight, FW_NORMAL);
+    EXPECT_EQ(description.lfCharSet, DEFAULT_CHARSET);
+    EXPECT_FALSE(description.lfItalic);
+    EXPECT_TRUE(font->OwnsFont());
+
+    // A label holds the screen font across a change of resolution.
+    Label held("Vega", TPoint(), *font, TColor::White);
+    FontRef* paper = StarDisplayParameters::GetLabelFontRef(printer);
+    EXPECT_NE(paper, font);
+    EXPECT_EQ(paper->GetFont().GetHeight(), 84);
+    held.Measure(screen);
+    EXPECT_EQ(held.GetSize(), TSize(29, 14));
+
+    FontRef* again = StarDisplayParameters::GetLabelFontRef(screen);
+    EXPECT_NE(again, font);
+    EXPECT_EQ(again->GetFont().GetHeight(), 13);
 }

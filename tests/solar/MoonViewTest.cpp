@@ -6,9 +6,12 @@
 #include <memory>
 #include <string>
 
+#include "catalogues/AstroList.h"
 #include "platform/ModuleResources.h"
 #include "platform/TDib.h"
 #include "projection/Transformation.h"
+#include "skyview/Label.h"
+#include "skyview/LabelManager.h"
 #include "skyview/SkyCanvas.h"
 #include "solar/MoonView.h"
 #include "solar/PlanetCatalogue.h"
@@ -265,4 +268,27 @@ TEST(MoonViewOrientation, AngleTurnsThePicturesNorthTowardsThePoleOfTheView)
         EXPECT_EQ(north, c.North);
         EXPECT_NEAR(MoonView::GetOrientationAngle(view, moon).GetDegrees(), c.Angle, 1e-9);
     }
+}
+
+TEST_F(MoonViewOnTheSky, LabelStandsClearOfThePicture)
+{
+    // The picture is 32 pixels across: the label's first place is 3 + 16 pixels right of the
+    // Moon's point, and the picture itself is kept clear of other labels.
+    AstroList objects(10, 10);
+    objects.Add(Moon);
+    LabelManager labels;
+    labels.LoadLabels(Canvas.Parameters, objects);
+    labels.Arrange(Canvas.Parameters);
+    ASSERT_EQ(labels.size(), 1u);
+    ASSERT_EQ(labels.GetObjectsToAvoid().GetCount(), 1u);
+    EXPECT_EQ(labels.GetObjectsToAvoid()[0], Moon);
+    EXPECT_EQ(labels[0]->GetText(), "Moon");
+    // Times New Roman 15 pixels high: the text is 15 rows, its top 7 above the point.
+    EXPECT_EQ(labels[0]->GetDisplayRect().TopLeft(), TPoint(64 + 19, 64 - 7));
+    EXPECT_EQ(labels[0]->GetDisplayRect().Height(), 15);
+
+    // The label moves with the Moon's point.
+    Moon->SetDisplayPoint(TPoint(60, 70));
+    EXPECT_EQ(Moon->GetLabel(Canvas.Parameters)->GetObjectPoint(), TPoint(60, 70));
+    EXPECT_EQ(Moon->GetBitmap().GetDisplayPoint(), TPoint(60, 70));
 }

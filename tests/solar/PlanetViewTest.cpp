@@ -1,11 +1,17 @@
 // A body as a sky object: seen from its origin, hidden when it is the origin, drawn as a star
-// of its magnitude, or as the Sun's white disc.
+// of its magnitude, or as the Sun's white disc, and labelled with its name.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "catalogues/Star.h"
+#include "platform/Surface.h"
+#include "platform/TDC.h"
+#include "platform/TFont.h"
+#include "skyview/FontRef.h"
+#include "skyview/Label.h"
 #include "skyview/SkyCanvas.h"
+#include "solar/CometView.h"
 #include "solar/EarthView.h"
 #include "solar/MarsView.h"
 #include "solar/SunView.h"
@@ -163,4 +169,92 @@ TEST(PlanetView, PlaceAndDistanceAreAskedOfTheOrigin)
     EXPECT_NEAR(sun.GetPosition().GetRA().GetDegrees(), 281.283, 0.01);
     EXPECT_NEAR(sun.GetPosition().GetDec().GetDegrees(), -23.033, 0.01);
     EXPECT_NEAR(sun.GetDistance(), 0.98331, 0.0001);
+}
+
+namespace {
+
+// A surface of a printer at 600 dots per inch.
+class PrinterPage
+{
+public:
+    PrinterPage() : Page(8, 8, PixelFormat::Rgb32), Dc(Page, Caps()) {}
+    static DeviceCaps Caps()
+    {
+        DeviceCaps caps;
+        caps.LogPixelsX = caps.LogPixelsY = 600;
+        return caps;
+    }
+    Surface Page;
+    TDC Dc;
+};
+
+} // namespace
+
+TEST(PlanetViewLabel, NameInTimesNewRomanSharedByAllBodiesAndFollowingThePoint)
+{
+    SkyCanvas canvas(16, 16);
+    MarsView mars;
+    SunView sun;
+    mars.SetDisplayPoint(TPoint(3, 4));
+    Label* label = mars.GetLabel(canvas.Parameters);
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->GetText(), "Mars");
+    EXPECT_EQ(label->GetObject(), &mars);
+    EXPECT_EQ(label->GetObjectPoint(), TPoint(3, 4));
+    EXPECT_EQ(label->GetColor(), TColor::White);
+    EXPECT_EQ(label->GetFontRef()->GetFont().GetFaceName(), "Times New Roman");
+    EXPECT_EQ(label->GetFontRef()->GetFont().GetHeight(), 15); // 96 * 0.16 = 15.36
+    EXPECT_EQ(label->GetFontRef()->GetFont().GetLogFont().lfCharSet, DEFAULT_CHARSET);
+
+    EXPECT_EQ(mars.GetLabel(canvas.Parameters), label);
+    EXPECT_EQ(sun.GetLabel(canvas.Parameters)->GetFontRef(), label->GetFontRef());
+    mars.SetDisplayPoint(TPoint(9, 1));
+    EXPECT_EQ(label->GetObjectPoint(), TPoint(9, 1));
+}
+
+TEST(PlanetViewLabel, PrinterOfAnotherResolutionRebuildsBlackAndTheScreenRebuildsAgain)
+{
+    SkyCanvas canvas(16, 16);
+    PrinterPage printer;
+    MarsView mars;
+    EarthView earth;
+    ASSERT_NE(mars.GetLabel(canvas.Parameters), nullptr);
+    ASSERT_NE(earth.GetLabel(canvas.Parameters), nullptr);
+
+    DisplayParameters printing(canvas.Parameters);
+    printing.pDC = &printer.Dc;
+    printing.SetPrinting(true);
+    const Label* paper = mars.GetLabel(printing);
+    EXPECT_EQ(paper->GetColor(), TColor::Black);
+    EXPECT_EQ(paper->GetFontRef()->GetFont().GetHeight(), 96); // 600 * 0.16
+    // The Earth's screen label holds the old font and is made anew in the new one.
+    const Label* earthOnPaper = earth.GetLabel(printing);
+    EXPECT_EQ(earthOnPaper->GetFontRef(), paper->GetFontRef());
+    EXPECT_EQ(earthOnPaper->GetColor(), TColor::Black);
+
+    const Label* screen = mars.GetLabel(canvas.Parameters);
+    EXPECT_EQ(screen->GetColor(), TColor::White);
+    EXPECT_EQ(screen->GetFontRef()->GetFont().GetHeight(), 15);
+    EXPECT_EQ(earth.GetLabel(canvas.Parameters)->GetFontRef(), screen->GetFontRef());
+    // Once rebuilt, the labels stay.
+    EXPECT_EQ(mars.GetLabel(canvas.Parameters), screen);
+
+    DisplayParameters noSurface(canvas.Parameters);
+    noSurface.pDC = nullptr;
+    EXPECT_EQ(mars.GetLabel(noSurface), nullptr);
+}
+
+TEST(PlanetViewLabel, CometIsAlwaysLabelledWithItsName)
+{
+    SkyCanvas canvas(16, 16);
+    CometView comet(7, "Hale-Bopp", AstroTime(50539.0, false), 0.914, 0.995, 89.4, 282.5, 130.6);
+    comet.SetShowLabel(false);
+    EXPECT_TRUE(comet.IsLabeled(canvas.Parameters));
+    ASSERT_NE(comet.GetLabel(canvas.Parameters), nullptr);
+    EXPECT_EQ(comet.GetLabel(canvas.Parameters)->GetText(), "Hale-Bopp");
+
+    MarsView mars;
+    EXPECT_FALSE(mars.IsLabeled(canvas.Parameters));
+    mars.SetShowLabel(true);
+    EXPECT_TRUE(mars.IsLabeled(canvas.Parameters));
 }

@@ -8,6 +8,7 @@
 #include "platform/TBrush.h"
 #include "platform/TButton.h"
 #include "platform/TCheckBox.h"
+#include "platform/TComboBox.h"
 #include "platform/TDC.h"
 #include "platform/TDialog.h"
 #include "platform/TEdit.h"
@@ -275,6 +276,88 @@ TEST_F(Dialogs, NestedModalWindowsAreAnsweredInTheOrderTheyOpen)
     Desk().AnswerNextModal([](TWindow& box) { HeadlessBackend::PressButton(box, IDYES); });
     EXPECT_EQ(dialog.Execute(), IDOK);
     EXPECT_EQ(dialog.nAnswer, IDYES);
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(Dialogs, DroppedComboTakesEnterAndEscapeBeforeTheDialog)
+{
+    class Chooser : public TDialog
+    {
+    public:
+        Chooser() : TDialog(nullptr, "Chooser")
+        {
+            Attr.W = 260;
+            Attr.H = 160;
+            pCombo = new TComboBox(this, 0x65, 10, 10, 150, 120, CBS_DROPDOWNLIST);
+            new TButton(this, IDOK, "OK", 170, 120, 75, 23, true);
+        }
+        TComboBox* pCombo;
+        void SetupWindow() override
+        {
+            TDialog::SetupWindow();
+            for (const char* row : {"Constellations", "Planets", "Stars"}) {
+                pCombo->AddString(row);
+            }
+            pCombo->SetSelIndex(0);
+        }
+    };
+    Chooser dialog;
+    Desk().AnswerNextModal([&](TWindow& window) {
+        EXPECT_EQ(GetFocus(), dialog.pCombo->HWindow);
+        Desk().PressKey(VK_F1 + 3); // F4 drops the list
+        ASSERT_TRUE(dialog.pCombo->IsListShown());
+        Desk().PressKey(VK_DOWN);
+        Desk().PressKey(VK_RETURN);
+        EXPECT_TRUE(window.IsWindowVisible()) << "Enter took the row, not the dialog's OK";
+        EXPECT_EQ(dialog.pCombo->GetSelIndex(), 1);
+        Desk().PressKey(VK_F1 + 3);
+        Desk().PressKey(VK_ESCAPE);
+        EXPECT_FALSE(dialog.pCombo->IsListShown());
+        EXPECT_TRUE(window.IsWindowVisible()) << "Escape closed the list only";
+        Desk().PressKey(VK_RETURN);
+    });
+    EXPECT_EQ(dialog.Execute(), IDOK);
+    EXPECT_EQ(dialog.pCombo->GetSelIndex(), 1);
+}
+
+TEST_F(Dialogs, OwnersTimerCanEndTheModalDialog)
+{
+    class Closer : public Ticker
+    {
+    public:
+        TDialog* pDialog = nullptr;
+        const TResponseRow* Find(const TEventInfo& event) const override
+        {
+            static const TResponseTable table{EvRow<WM_TIMER, &Closer::EvClose>()};
+            const TResponseRow* row = table.Find(event);
+            return row ? row : Ticker::Find(event);
+        }
+        void EvClose(UINT)
+        {
+            KillTimer(1);
+            if (pDialog) {
+                pDialog->CloseWindow(IDABORT);
+            }
+        }
+    };
+    Closer owner;
+    owner.Create();
+    YearDialog dialog(&owner);
+    owner.pDialog = &dialog;
+    owner.SetTimer(1, 500);
+    Desk().AnswerNextModal([](TWindow&) { Desk().AdvanceTime(600); });
+    EXPECT_EQ(dialog.Execute(), IDABORT);
+}
+
+TEST_F(Dialogs, QuitDuringAModalDialogEndsItAndThenTheLoop)
+{
+    YearDialog dialog(nullptr);
+    Desk().AnswerNextModal([](TWindow&) { PostQuitMessage(3); });
+    EXPECT_EQ(dialog.Execute(), IDCANCEL);
+    EXPECT_EQ(WindowSystem::Get().Run(), 3) << "the quit is kept for the program's loop";
 }
 
 } // namespace

@@ -5,6 +5,11 @@
 #include <vector>
 
 #include "HeadlessFixture.h"
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "platform/PngFile.h"
 #include "platform/Surface.h"
 #include "platform/TBrush.h"
 #include "platform/TClientDC.h"
@@ -383,6 +388,111 @@ TEST_F(MessageLoop, CursorFollowsTheWindowUnderThePointer)
     EXPECT_EQ(Desk().GetCursorShape(), IDC_ARROW) << "a change shows at once under the pointer";
     SetCursor(LoadCursorA(nullptr, IDC_HAND));
     EXPECT_EQ(Desk().GetCursorShape(), IDC_HAND);
+}
+
+TEST_F(MessageLoop, HelpGoesToTheHandlerTheHostInstalled)
+{
+    EXPECT_FALSE(WinHelpA(nullptr, "orbiscope.hlp", HELP_KEY, UINT_PTR("Time Lapse")))
+        << "no handler, no help";
+    std::string asked;
+    WinHelpHandler before =
+        SetWinHelpHandler([&](HWND, const std::string& file, UINT command, const std::string& key) {
+            asked = file + "|" + std::to_string(command) + "|" + key;
+            return true;
+        });
+    EXPECT_TRUE(WinHelpA(nullptr, "orbiscope.hlp", HELP_KEY, UINT_PTR("Time Lapse")));
+    EXPECT_EQ(asked, "orbiscope.hlp|257|Time Lapse");
+    EXPECT_TRUE(WinHelpA(nullptr, "orbiscope.hlp", HELP_CONTEXT, 42));
+    EXPECT_EQ(asked, "orbiscope.hlp|1|42");
+    SetWinHelpHandler(before);
+}
+
+TEST_F(MessageLoop, WindowAndDesktopPicturesGoToPngFiles)
+{
+    Recorder w;
+    w.Fill = TColor(1, 2, 3);
+    w.Create();
+    Pump();
+    std::string dir = ::testing::TempDir();
+    std::string window = dir + "orbiscope-window-" + std::to_string(getpid()) + ".png";
+    std::string desktop = dir + "orbiscope-desktop-" + std::to_string(getpid()) + ".png";
+    ASSERT_TRUE(Desk().SaveWindowPng(w.HWindow, window));
+    ASSERT_TRUE(Desk().SaveDesktopPng(desktop));
+    PngImage picture;
+    ASSERT_TRUE(ReadPngFile(window, picture));
+    EXPECT_EQ(picture.Width, 200);
+    EXPECT_EQ(picture.Height, 150);
+    EXPECT_EQ(picture.Pixels[0], 1);
+    ASSERT_TRUE(ReadPngFile(desktop, picture));
+    EXPECT_EQ(picture.Width, 1024);
+    std::size_t at = (std::size_t(50) * 1024 + 100) * 3; // the window's corner on the screen
+    EXPECT_EQ(picture.Pixels[at + 2], 3);
+    EXPECT_FALSE(Desk().SaveWindowPng(nullptr, window));
+    std::remove(window.c_str());
+    std::remove(desktop.c_str());
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(MessageLoop, TimerKilledByAnEarlierHandlerOfTheSameMomentDoesNotFire)
+{
+    class Killer : public Recorder
+    {
+    public:
+        const TResponseRow* Find(const TEventInfo& event) const override
+        {
+            static const TResponseTable table{EvRow<WM_TIMER, &Killer::EvKill>()};
+            const TResponseRow* row = table.Find(event);
+            return row ? row : Recorder::Find(event);
+        }
+        void EvKill(UINT id)
+        {
+            Log.push_back(std::to_string(id));
+            KillTimer(2);
+        }
+    };
+    Killer w;
+    w.Create();
+    w.SetTimer(1, 100);
+    w.SetTimer(2, 100);
+    Desk().AdvanceTime(250);
+    EXPECT_EQ(w.Log, (std::vector<std::string>{"1", "1"}));
+    w.KillTimer(1);
+}
+
+TEST_F(MessageLoop, DisabledAndHiddenWindowsTakeNoInput)
+{
+    Recorder w;
+    w.Create();
+    Pump();
+    w.EnableWindow(false);
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_TRUE(w.Log.empty());
+    w.EnableWindow(true);
+    w.Show(SW_HIDE);
+    EXPECT_FALSE(w.IsWindowVisible());
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_TRUE(w.Log.empty()) << "the click fell on the desktop";
+    w.Show(SW_SHOW);
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_EQ(w.Log.front(), "down 10,10");
+}
+
+TEST_F(MessageLoop, LoopRunsUntilQuitAndSaysWhenNothingCanCome)
+{
+    Recorder w;
+    w.Create();
+    w.PostMessage(kEcho, 1);
+    PostQuitMessage(5);
+    w.PostMessage(kEcho, 2);
+    EXPECT_EQ(WindowSystem::Get().Run(), 5);
+    EXPECT_EQ(std::count(w.Log.begin(), w.Log.end(), "echo 1"), 1);
+    EXPECT_EQ(std::count(w.Log.begin(), w.Log.end(), "echo 2"), 0) << "behind the quit";
+    // On the headless desktop nothing more can come: the loop returns rather than wait.
+    EXPECT_EQ(WindowSystem::Get().Run(), 0);
+    EXPECT_EQ(std::count(w.Log.begin(), w.Log.end(), "echo 2"), 1);
 }
 
 } // namespace
