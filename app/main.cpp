@@ -408,6 +408,7 @@ int Render(const std::vector<std::string>& args)
     if (frame) {
         kit.DestroyFrame(frame);
     }
+    kit.CloseDesktop();
     return status;
 }
 
@@ -451,10 +452,12 @@ int RunOnDisplay(const std::vector<std::string>& args)
         if (frame) {
             kit.DestroyFrame(frame);
         }
+        kit.CloseDesktop();
         return kExitFailure;
     }
     int status = kit.RunMessageLoop();
     kit.DestroyFrame(frame);
+    kit.CloseDesktop();
     return status;
 }
 

@@ -40,7 +40,8 @@ std::string MakeStateRoot()
 } // namespace
 
 AstroNoxWindow::AstroNoxWindow(TWindow* parent)
-    : TWindow(parent, getHostString(kStringTable, kTitleString).c_str()), StateRoot(MakeStateRoot())
+    : TLayoutWindow(parent, getHostString(kStringTable, kTitleString).c_str()),
+      StateRoot(MakeStateRoot())
 {
     ModifyStyle(0, WS_CLIPCHILDREN);
     // The map is a child: the window tree owns it.
@@ -74,17 +75,18 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         MsgRow<kCapabilityMessage, &AstroNoxWindow::WmuCapability>(),
     };
     const TResponseRow* row = table.Find(event);
-    return row ? row : TWindow::Find(event);
+    return row ? row : TLayoutWindow::Find(event);
 }
 
 void AstroNoxWindow::SetupWindow()
 {
-    TWindow::SetupWindow();
+    TLayoutWindow::SetupWindow();
     if (TWindow* parent = GetParentO()) {
         const TRect client = parent->GetClientRect();
         SetWindowPos(nullptr, client, SWP_NOZORDER);
     }
     LayoutWindows(GetClientRect().Size());
+    Layout();
 }
 
 void AstroNoxWindow::Paint(TDC& dc, bool, TRect& rect)
@@ -99,20 +101,24 @@ void AstroNoxWindow::Paint(TDC& dc, bool, TRect& rect)
     DrawHostInnieBezel(dc, pMap);
 }
 
-void AstroNoxWindow::LayoutWindows(const TSize& size)
+void AstroNoxWindow::LayoutWindows(const TSize&)
 {
-    if (!pMap->HWindow) {
-        return;
-    }
+    // Without the side panels the map fills the window, set in by the bezel on every side.
     const int bezel = BezelWidth();
-    pMap->MoveWindow(bezel, bezel, std::max(0, size.cx - 2 * bezel),
-                     std::max(0, size.cy - 2 * bezel));
+    TLayoutMetrics map;
+    GetChildLayoutMetrics(*pMap, map);
+    map.SetMeasurementUnits(lmPixels);
+    map.X.Set(lmLeft, lmRightOf, lmParent, lmLeft, bezel);
+    map.Y.Set(lmTop, lmBelow, lmParent, lmTop, bezel);
+    map.Width.Set(lmRight, lmLeftOf, lmParent, lmRight, bezel);
+    map.Height.Set(lmBottom, lmAbove, lmParent, lmBottom, bezel);
+    SetChildLayoutMetrics(*pMap, map);
 }
 
 void AstroNoxWindow::EvSize(UINT sizeType, TSize& size)
 {
     LayoutWindows(size);
-    TWindow::EvSize(sizeType, size);
+    TLayoutWindow::EvSize(sizeType, size);
     Invalidate();
 }
 
@@ -187,6 +193,7 @@ StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
     SetMessierObjectsDisplay(pMap->IsShowingMessier());
     if (HWindow) {
         LayoutWindows(GetClientRect().Size());
+        Layout();
     }
     pMap->Invalidate();
     return sc;

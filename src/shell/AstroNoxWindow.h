@@ -15,13 +15,13 @@
 // It is written only after changes that say so, and only once the map has a location name.
 #include <string>
 
-#include "platform/TWindow.h"
+#include "platform/TLayoutWindow.h"
 
 class HostBookmark;
 class MapWindow;
 class StateContainer;
 
-class AstroNoxWindow : public TWindow
+class AstroNoxWindow : public TLayoutWindow
 {
 public:
     // Messages of the host and of the map.
@@ -52,7 +52,8 @@ public:
     // Shows or hides the Messier objects and keeps the choice as the default.
     void SetMessierObjectsDisplay(bool show);
 
-    // Puts the map into the client area of that size.
+    // Sets the layout of the map for a client area of that size: inside the frame's bezel.
+    // TLayoutWindow::Layout then moves it there.
     void LayoutWindows(const TSize& size);
 
     // Handlers.

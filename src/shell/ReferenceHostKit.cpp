@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <string>
 
 #include "host/HostFrameAPI.h"
 #include "host/HostFrameWindow.h"
@@ -10,6 +11,7 @@
 #include "platform/Surface.h"
 #include "platform/WindowSystem.h"
 #include "platform/headless/HeadlessBackend.h"
+#include "platform/sdl/SdlBackend.h"
 #include "projection/FixedOrientationInfo.h"
 #include "shell/AstroNoxWindow.h"
 #include "skyview/MapWindow.h"
@@ -50,11 +52,17 @@ void Say(char* error, std::size_t size, const char* text)
 int OpenDesktop(int display, char* error, std::size_t errorSize)
 {
     SetHostFrameAPI(&Frame());
-    if (display) {
-        Say(error, errorSize, "this build of the planetarium has no display backend");
+    if (!display) {
+        Headless();
+        return 1;
+    }
+    std::string reason;
+    std::unique_ptr<SdlBackend> backend = SdlBackend::Open(reason);
+    if (!backend) {
+        Say(error, errorSize, reason.c_str());
         return 0;
     }
-    Headless();
+    WindowSystem::Get().SetBackend(std::move(backend));
     return 1;
 }
 
@@ -140,9 +148,16 @@ void DestroyFrame(std::uint32_t handle)
     Frames().erase(found);
 }
 
+void CloseDesktop()
+{
+    // The headless desktop takes the place of any other, which closes it.
+    WindowSystem::Get().SetBackend(std::make_unique<HeadlessBackend>());
+    SetHostFrameAPI(nullptr);
+}
+
 const OrbiscopeHostKit kKit{
-    kOrbiscopeHostKitVersion, &OpenDesktop,    &CreateFrame,  &GetMapInset, &SetView,
-    &SaveMapPicture,          &RunMessageLoop, &DestroyFrame,
+    kOrbiscopeHostKitVersion, &OpenDesktop,    &CreateFrame,  &GetMapInset,  &SetView,
+    &SaveMapPicture,          &RunMessageLoop, &DestroyFrame, &CloseDesktop,
 };
 
 } // namespace

@@ -59,6 +59,8 @@ struct OrbiscopeHostKit
     int (*RunMessageLoop)(void);
     // Destroys a frame window made by CreateFrame and everything in it.
     void (*DestroyFrame)(std::uint32_t frame);
+    // Lets go of the display, once every frame is destroyed.
+    void (*CloseDesktop)(void);
 };
 
 inline constexpr int kOrbiscopeHostKitVersion = 1;

@@ -230,8 +230,10 @@ void MapWindow::DrawAll()
 
     Display.pTransformation = pTransformation.get();
 
-    // The objects the view can show.
-    LoadVisibleObjects(*pTransformation);
+    // The objects the view can show; a new list needs new labels.
+    if (LoadVisibleObjects(*pTransformation) > 0) {
+        Labels.SetDirty();
+    }
 
     // The sky. A printed page keeps its white paper.
     if (!Display.IsPrinting()) {
@@ -269,6 +271,15 @@ void MapWindow::DrawAll()
         }
     }
 
+    // The labels are laid out again only when something changed, clear of the status line.
+    if (Labels.IsDirty()) {
+        Labels.SetAvoidRect(StatusRect);
+        Labels.Flush();
+        Labels.LoadLabels(Display, aVisibleObjects);
+        Labels.Arrange(Display);
+    }
+    Labels.Draw(dc);
+
     if (limit.IsExpired()) {
         return;
     }
@@ -281,11 +292,12 @@ void MapWindow::MarkAllDirty()
     bGridDirty = true;
     bTimeDirty = true;
     bStatusDirty = true;
+    Labels.SetDirty();
 }
 
 bool MapWindow::IsAnythingDirty() const
 {
-    return bTransformationDirty || bTimeDirty || bGridDirty || bStatusDirty;
+    return bTransformationDirty || bTimeDirty || bGridDirty || Labels.IsDirty() || bStatusDirty;
 }
 
 std::int32_t MapWindow::LoadVisibleObjects(Transformation& t)
@@ -556,6 +568,7 @@ void MapWindow::SetTime(const AstroTime& time)
     bNearestDarkPending = false;
     bTimeDirty = true;
     bStatusDirty = true;
+    Labels.SetDirty();
     InvalidateView();
 }
 
@@ -629,6 +642,7 @@ void MapWindow::SetLocationName(const std::string& name)
 {
     LocationName = name;
     bStatusDirty = true;
+    Labels.SetDirty();
     InvalidateView();
 }
 
@@ -636,6 +650,7 @@ void MapWindow::ShowMessierObjects(bool show)
 {
     if (show != bShowMessier) {
         bShowMessier = show;
+        Labels.SetDirty();
         InvalidateView();
     }
 }
@@ -644,6 +659,7 @@ void MapWindow::ShowComets(bool show)
 {
     if (show != bShowComets) {
         bShowComets = show;
+        Labels.SetDirty();
         InvalidateView();
     }
 }
@@ -652,6 +668,7 @@ void MapWindow::ShowPlanets(bool show)
 {
     if (show != bShowPlanets) {
         bShowPlanets = show;
+        Labels.SetDirty();
         InvalidateView();
     }
 }

@@ -35,6 +35,7 @@
 #include "projection/Transformation.h"
 #include "skyview/DisplayParameters.h"
 #include "skyview/GridInfo.h"
+#include "skyview/LabelManager.h"
 #include "time/AnimationSettings.h"
 #include "time/AstroTime.h"
 #include "time/TimeZone.h"
@@ -178,6 +179,8 @@ public:
     bool IsTransformationDirty() const { return bTransformationDirty; }
     bool IsTimeDirty() const { return bTimeDirty; }
     bool IsStatusDirty() const { return bStatusDirty; }
+    bool AreLabelsDirty() const { return Labels.IsDirty(); }
+    const LabelManager& GetLabels() const { return Labels; }
     bool IsFirstDrawPending() const { return bFirstDrawPending; }
     bool IsNearestDarkPending() const { return bNearestDarkPending; }
 
@@ -220,6 +223,7 @@ private:
     bool bNearestDarkPending = true;
     AnimationSettings Animation;
     GridInfo Grid;
+    LabelManager Labels;
     AstroObject* pHilitedObject = nullptr;
     bool bStatusDirty = true;
     std::string StatusText;

@@ -151,6 +151,33 @@ TEST_F(MapWindowTest, TheStarsOfTheViewAreAskedForOnceUntilTheViewChanges)
     }
 }
 
+TEST_F(MapWindowTest, LabelsAreLaidOutAgainOnlyWhenTheObjectsOrTheTimeChange)
+{
+    // Jupiter and Saturn stand in Pisces and Aries at the start of 2000.
+    MapWindow& map = Open(400, 300);
+    map.SetTime(AstroTime(1, 1, 2000, 0.0));
+    map.SetOrientation(
+        FixedOrientationInfo(nullptr, PolarCoord(30.0, 10.0), PolarCoord(30.0, 90.0), 20.0));
+    map.SetGridInfo(ShownGrid());
+    Pump();
+    ASSERT_FALSE(map.IsAnythingDirty());
+    ASSERT_GE(map.GetLabels().size(), 2u) << "the planets' names";
+    const Label* first = map.GetLabels().front();
+
+    // The grid alone changes: the labels stay as they were laid out.
+    map.SetGridInfo(ShownGrid(12, 18));
+    EXPECT_FALSE(map.AreLabelsDirty());
+    Pump();
+    EXPECT_EQ(map.GetLabels().front(), first);
+
+    // A new time moves the planets: their labels are made again.
+    map.SetTime(AstroTime(1, 2, 2000, 0.0));
+    EXPECT_TRUE(map.AreLabelsDirty());
+    Pump();
+    EXPECT_FALSE(map.AreLabelsDirty());
+    EXPECT_GE(map.GetLabels().size(), 2u);
+}
+
 TEST_F(MapWindowTest, TheParentHearsOfEveryNewProjection)
 {
     MapWindow& map = Open(120, 80);
