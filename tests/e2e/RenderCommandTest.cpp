@@ -131,15 +131,30 @@ protected:
         return outcome;
     }
 
-    // Renders one grid view and compares it with its golden picture.
-    void ExpectGolden(const std::string& name, const std::string& center, const std::string& radius)
+    // Renders one view at 2000 January 1, 0h UT, and compares it with its golden picture. The
+    // default limit leaves the stars out, so that the picture shows the grid and the Sun, Moon
+    // and planets that stand in the view at that moment.
+    void ExpectGolden(const std::string& name, const std::string& center, const std::string& radius,
+                      const std::string& limit = "-30", bool grid = true)
     {
         const fs::path picture = Dir / (name + ".png");
-        // Stars are left out: the pictures show the grid, and the Sun, Moon and planets that
-        // stand in the view at that moment.
-        Outcome made = Run({"render", "--out", picture.string(), "--size", "800x600", "--time",
-                            "2000-01-01 00:00", "--center", center, "--radius", radius, "--grid",
-                            "--limit", "-30"});
+        std::vector<std::string> args = {"render",
+                                         "--out",
+                                         picture.string(),
+                                         "--size",
+                                         "800x600",
+                                         "--time",
+                                         "2000-01-01 00:00",
+                                         "--center",
+                                         center,
+                                         "--radius",
+                                         radius,
+                                         "--limit",
+                                         limit};
+        if (grid) {
+            args.push_back("--grid");
+        }
+        Outcome made = Run(args);
         ASSERT_EQ(made.nExit, 0) << made.Err;
         PngImage actual;
         ASSERT_TRUE(ReadPngFile(picture.string(), actual));
@@ -175,6 +190,15 @@ TEST_F(RenderCommandTest, TheGridAtTheEquatorThePoleAndFortyFiveSouthMatchesItsP
     ExpectGolden("grid-equator-radius30", "0,0", "30");
     ExpectGolden("grid-north-pole-radius60", "0,90", "60");
     ExpectGolden("grid-dec-minus45-radius90", "0,-45", "90");
+}
+
+// The stars must not change unseen: Orion at radius 20 to magnitude 6.5 (the belt in the
+// middle, Betelgeuse up and to the left, Rigel down and to the right), and the whole northern
+// sky to magnitude 6 with the grid, the Plough and Cassiopeia either side of Polaris.
+TEST_F(RenderCommandTest, StarsOfOrionAndOfTheNorthernSkyMatchTheirPictures)
+{
+    ExpectGolden("stars-orion-radius20", "84,0", "20", "6.5", false);
+    ExpectGolden("stars-north-pole-radius90", "0,90", "90", "6", true);
 }
 
 TEST_F(RenderCommandTest, RenderWritesThePictureOfTheSizeAskedForAndSaysSo)
