@@ -3,6 +3,8 @@
 // placed (every other frame). Layout is quadratic in the number of labels; the range shows it.
 #include <benchmark/benchmark.h>
 
+#include "SkyBitmap.h"
+
 #include <cstring>
 #include <memory>
 #include <random>
@@ -25,60 +27,6 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
-
-// The map's bitmap: a bottom-up 8-bit DIB section in the host palette.
-class SkyBitmap
-{
-public:
-    SkyBitmap() : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, DeviceCaps{})
-    {
-        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
-        BITMAPINFOHEADER header{};
-        header.biSize = sizeof header;
-        header.biWidth = kWidth;
-        header.biHeight = kHeight;
-        header.biPlanes = 1;
-        header.biBitCount = 8;
-        header.biCompression = BI_RGB;
-        header.biSizeImage = kWidth * kHeight;
-        header.biClrUsed = 256;
-        std::memcpy(info.data(), &header, sizeof header);
-        for (int i = 0; i < 256; ++i) {
-            WORD index = WORD(i);
-            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
-        }
-        Dc = std::make_unique<TMemoryDC>(ScreenDc);
-        Dc->SelectObject(HostPalette());
-        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
-                                   DIB_PAL_COLORS, &pBits, nullptr, 0);
-        Bitmap = std::make_unique<TBitmap>(hBitmap);
-        Dc->SelectObject(*Bitmap);
-        Parameters.SetFastDrawBitmapBits(pBits, header);
-        Parameters.SetDC(Dc.get());
-        Parameters.SetDrawRect(TRect(0, 0, kWidth, kHeight));
-        Parameters.SetLabelType(StarDisplayParameters::kPopularNameLabels);
-        Parameters.SetLimitingMagnitudeLabels(6.0);
-    }
-    ~SkyBitmap()
-    {
-        Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
-        Dc.reset();
-        Bitmap.reset();
-        DeleteObject(hBitmap);
-    }
-
-    void Clear() { std::memset(pBits, 0, std::size_t(kWidth) * kHeight); }
-
-    DisplayParameters Parameters;
-    std::unique_ptr<TMemoryDC> Dc;
-
-private:
-    Surface Screen;
-    TDC ScreenDc;
-    void* pBits = nullptr;
-    HBITMAP hBitmap = nullptr;
-    std::unique_ptr<TBitmap> Bitmap;
-};
 
 // Named stars spread evenly over the bitmap, with names of 4 to 12 letters as star names have.
 std::vector<std::unique_ptr<Star>> MakeNamedStars(int count)
@@ -103,8 +51,12 @@ std::vector<std::unique_ptr<Star>> MakeNamedStars(int count)
 
 struct LabelledSky
 {
-    explicit LabelledSky(int count) : Stars(MakeNamedStars(count)), Objects(500, 1000)
+    explicit LabelledSky(int count)
+        : Sky(kWidth, kHeight), Stars(MakeNamedStars(count)), Objects(500, 1000)
     {
+        Sky.Parameters.SetDrawRect(TRect(0, 0, kWidth, kHeight));
+        Sky.Parameters.SetLabelType(StarDisplayParameters::kPopularNameLabels);
+        Sky.Parameters.SetLimitingMagnitudeLabels(6.0);
         for (const auto& star : Stars) {
             Objects.Add(star.get());
         }

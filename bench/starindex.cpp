@@ -4,6 +4,8 @@
 // vectors against a full request of the same frame; and reading all 64 segments.
 #include <benchmark/benchmark.h>
 
+#include "SkyBitmap.h"
+
 #include <cstring>
 #include <memory>
 #include <vector>
@@ -31,65 +33,6 @@ const TRect kRect(0, 0, kWidth, kHeight);
 const char* const kLargeCatalogue = "cd:\\win32\\stars.bin";
 const AstroTime kTime(1, 1, 2000, 0.0);
 
-// The map's bitmap: a bottom-up 8-bit DIB section in the host palette, its bits open to the
-// star drawing.
-class SkyBitmap
-{
-public:
-    explicit SkyBitmap(double limitingMagnitude)
-        : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, DeviceCaps{})
-    {
-        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
-        BITMAPINFOHEADER header{};
-        header.biSize = sizeof header;
-        header.biWidth = kWidth;
-        header.biHeight = kHeight;
-        header.biPlanes = 1;
-        header.biBitCount = 8;
-        header.biCompression = BI_RGB;
-        header.biSizeImage = kWidth * kHeight;
-        header.biClrUsed = 256;
-        std::memcpy(info.data(), &header, sizeof header);
-        for (int i = 0; i < 256; ++i) {
-            WORD index = WORD(i);
-            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
-        }
-        Dc = std::make_unique<TMemoryDC>(ScreenDc);
-        Dc->SelectObject(HostPalette());
-        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
-                                   DIB_PAL_COLORS, &pBits, nullptr, 0);
-        Bitmap = std::make_unique<TBitmap>(hBitmap);
-        Dc->SelectObject(*Bitmap);
-        Parameters.SetLimitingMagnitude(limitingMagnitude);
-        Parameters.SetFastDrawBitmapBits(pBits, header);
-        Parameters.SetDC(Dc.get());
-    }
-    ~SkyBitmap()
-    {
-        Dc.reset();
-        Bitmap.reset();
-        DeleteObject(hBitmap);
-    }
-
-    void Clear() { std::memset(pBits, 0, std::size_t(kWidth) * kHeight); }
-    void Draw(const AstroList& list)
-    {
-        for (AstroObject* object : list) {
-            object->Draw(*Dc, Parameters);
-        }
-    }
-    const TDC& DC() const { return *Dc; }
-
-private:
-    Surface Screen;
-    TDC ScreenDc;
-    void* pBits = nullptr;
-    HBITMAP hBitmap = nullptr;
-    std::unique_ptr<TBitmap> Bitmap;
-    std::unique_ptr<TMemoryDC> Dc;
-    DisplayParameters Parameters;
-};
-
 // A view that stands on the ground, turned `azimuth` degrees from north through west, with
 // its centre `zenithDistance` degrees from the zenith.
 Transformation GroundView(const TDC& dc, double radius, double azimuth, double zenithDistance)
@@ -107,7 +50,8 @@ void RequestAndDraw(benchmark::State& state)
 {
     const double radius = double(state.range(0));
     const double limit = double(state.range(1));
-    SkyBitmap sky(limit);
+    SkyBitmap sky(kWidth, kHeight);
+    sky.Parameters.SetLimitingMagnitude(limit);
     StarCatalogue catalogue;
     if (!catalogue.Load(kLargeCatalogue)) {
         state.SkipWithError("stars.bin not found");
@@ -140,7 +84,8 @@ void ScrollFrame(benchmark::State& state, bool scrolling)
 {
     const double radius = double(state.range(0));
     const double limit = double(state.range(1));
-    SkyBitmap sky(limit);
+    SkyBitmap sky(kWidth, kHeight);
+    sky.Parameters.SetLimitingMagnitude(limit);
     AstroItemCollector collector;
     if (!collector.LoadStarsFromBinaryFile(kLargeCatalogue)) {
         state.SkipWithError("stars.bin not found");

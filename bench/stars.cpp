@@ -3,6 +3,8 @@
 // grey again (the first frame after the settings changed).
 #include <benchmark/benchmark.h>
 
+#include "SkyBitmap.h"
+
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -23,57 +25,6 @@ namespace {
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
 constexpr int kStarCount = 100000;
-
-// The map's bitmap: a bottom-up 8-bit DIB section in the host palette.
-class SkyBitmap
-{
-public:
-    SkyBitmap() : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, DeviceCaps{})
-    {
-        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
-        BITMAPINFOHEADER header{};
-        header.biSize = sizeof header;
-        header.biWidth = kWidth;
-        header.biHeight = kHeight;
-        header.biPlanes = 1;
-        header.biBitCount = 8;
-        header.biCompression = BI_RGB;
-        header.biSizeImage = kWidth * kHeight;
-        header.biClrUsed = 256;
-        std::memcpy(info.data(), &header, sizeof header);
-        for (int i = 0; i < 256; ++i) {
-            WORD index = WORD(i);
-            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
-        }
-        Dc = std::make_unique<TMemoryDC>(ScreenDc);
-        Dc->SelectObject(HostPalette());
-        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
-                                   DIB_PAL_COLORS, &pBits, nullptr, 0);
-        Bitmap = std::make_unique<TBitmap>(hBitmap);
-        Dc->SelectObject(*Bitmap);
-        Parameters.SetFastDrawBitmapBits(pBits, header);
-        Parameters.SetDC(Dc.get());
-    }
-    ~SkyBitmap()
-    {
-        Dc.reset();
-        Bitmap.reset();
-        DeleteObject(hBitmap);
-    }
-
-    // The night sky, as each frame begins.
-    void Clear() { std::memset(pBits, 0, std::size_t(kWidth) * kHeight); }
-
-    DisplayParameters Parameters;
-    std::unique_ptr<TMemoryDC> Dc;
-
-private:
-    Surface Screen;
-    TDC ScreenDc;
-    void* pBits = nullptr;
-    HBITMAP hBitmap = nullptr;
-    std::unique_ptr<TBitmap> Bitmap;
-};
 
 // Stars spread over the bitmap and a little beyond its edges, with magnitudes as the sky has
 // them: about three times as many stars in each magnitude as in the one before, down to 8.
@@ -96,7 +47,7 @@ std::vector<std::unique_ptr<Star>> MakeStars()
 
 void DrawAll(benchmark::State& state, bool fast, bool flushColours)
 {
-    SkyBitmap sky;
+    SkyBitmap sky(kWidth, kHeight);
     if (!fast) {
         sky.Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
     }

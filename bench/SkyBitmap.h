@@ -1,0 +1,82 @@
+#pragma once
+// The map's off-screen bitmap for the benchmarks: a bottom-up 8-bit DIB section in the host
+// palette, selected into a memory context, with its bits open to the star drawing through the
+// display parameters.
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "catalogues/AstroList.h"
+#include "catalogues/AstroObject.h"
+#include "platform/DeviceCaps.h"
+#include "platform/Gdi.h"
+#include "platform/HostPalette.h"
+#include "platform/Surface.h"
+#include "platform/TBitmap.h"
+#include "platform/TDC.h"
+#include "platform/TMemoryDC.h"
+#include "skyview/DisplayParameters.h"
+
+class SkyBitmap
+{
+public:
+    SkyBitmap(int width, int height)
+        : nWidth(width), nHeight(height), Screen(1, 1, PixelFormat::Rgb32),
+          ScreenDc(Screen, DeviceCaps{})
+    {
+        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
+        BITMAPINFOHEADER header{};
+        header.biSize = sizeof header;
+        header.biWidth = width;
+        header.biHeight = height;
+        header.biPlanes = 1;
+        header.biBitCount = 8;
+        header.biCompression = BI_RGB;
+        header.biSizeImage = DWORD(width) * DWORD(height);
+        header.biClrUsed = 256;
+        std::memcpy(info.data(), &header, sizeof header);
+        for (int i = 0; i < 256; ++i) {
+            WORD index = WORD(i);
+            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
+        }
+        Dc = std::make_unique<TMemoryDC>(ScreenDc);
+        Dc->SelectObject(HostPalette());
+        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
+                                   DIB_PAL_COLORS, &pBits, nullptr, 0);
+        Bitmap = std::make_unique<TBitmap>(hBitmap);
+        Dc->SelectObject(*Bitmap);
+        Parameters.SetFastDrawBitmapBits(pBits, header);
+        Parameters.SetDC(Dc.get());
+    }
+    ~SkyBitmap()
+    {
+        Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
+        Dc.reset();
+        Bitmap.reset();
+        DeleteObject(hBitmap);
+    }
+    SkyBitmap(const SkyBitmap&) = delete;
+    SkyBitmap& operator=(const SkyBitmap&) = delete;
+
+    // The night sky, as each frame begins.
+    void Clear() { std::memset(pBits, 0, std::size_t(nWidth) * std::size_t(nHeight)); }
+    void Draw(const AstroList& list)
+    {
+        for (AstroObject* object : list) {
+            object->Draw(*Dc, Parameters);
+        }
+    }
+    const TDC& DC() const { return *Dc; }
+
+    DisplayParameters Parameters;
+    std::unique_ptr<TMemoryDC> Dc;
+
+private:
+    int nWidth;
+    int nHeight;
+    Surface Screen;
+    TDC ScreenDc;
+    void* pBits = nullptr;
+    HBITMAP hBitmap = nullptr;
+    std::unique_ptr<TBitmap> Bitmap;
+};
