@@ -17,6 +17,7 @@
 
 #include "catalogues/StarCatalogue.h"
 #include "catalogues/TextFile.h"
+#include "host/ScopedHome.h"
 #include "platform/DebugStream.h"
 #include "platform/DeviceCaps.h"
 #include "platform/Surface.h"
@@ -25,37 +26,12 @@
 
 // A fresh directory for one test, which is also ORBISCOPE_HOME while it lives, so that an
 // orbiscope.ini written into it overrides the shipped profile. Both go afterwards.
-class ScratchDirectory
+class ScratchDirectory : public ScopedHome
 {
 public:
-    ScratchDirectory()
-    {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "orbiscope-stars-XXXXXX").string();
-        Directory = ::mkdtemp(pattern.data()) ? pattern : std::string();
-        const char* before = std::getenv("ORBISCOPE_HOME");
-        bHadBefore = before != nullptr;
-        Before = before ? before : "";
-        ::setenv("ORBISCOPE_HOME", Directory.c_str(), 1);
-    }
-    ~ScratchDirectory()
-    {
-        if (bHadBefore) {
-            ::setenv("ORBISCOPE_HOME", Before.c_str(), 1);
-        } else {
-            ::unsetenv("ORBISCOPE_HOME");
-        }
-        std::error_code ignored;
-        std::filesystem::remove_all(Directory, ignored);
-    }
-    ScratchDirectory(const ScratchDirectory&) = delete;
-    ScratchDirectory& operator=(const ScratchDirectory&) = delete;
-
-    std::string File(const std::string& name) const { return Directory + "/" + name; }
-
     void WriteText(const std::string& name, const std::string& text) const
     {
-        std::ofstream(File(name), std::ios::binary) << text;
+        WriteFile(name, text);
     }
     std::vector<unsigned char> ReadBytes(const std::string& name) const
     {
@@ -68,11 +44,6 @@ public:
         std::ofstream out(File(name), std::ios::binary);
         out.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(bytes.size()));
     }
-
-private:
-    std::string Directory;
-    std::string Before;
-    bool bHadBefore = false;
 };
 
 // One text catalogue line: RA and Dec in degrees, written to a ten-thousandth of a second.
