@@ -35,20 +35,6 @@ bool FlatProjector::ReverseProject(const TPoint& point, PolarCoord& coord) const
         return false;
     }
     double dec = 90.0 - RadiansToDegrees(angle);
-    if (dec < 0.0) {
-        dec = 0.0;
-    }
-    if (r < 0.25) {
-        coord = PolarCoord(0.0, 90.0);
-        return true;
-    }
-    double ra = RadiansToDegrees(std::asin(dx / r));
-    if (dy < 0.0) {
-        ra = 180.0 - ra;
-    }
-    if (ra < 0.0) {
-        ra += 360.0;
-    }
-    coord = PolarCoord(ra, dec);
+    coord = DirectionOfOffset(dx, dy, dec);
     return true;
 }

@@ -138,12 +138,18 @@ bool Projector::ReverseProject(const TPoint& point, PolarCoord& coord) const
         return false;
     }
     double dec = 90.0 - RadiansToDegrees(std::asin(r / Scale));
+    coord = DirectionOfOffset(dx, dy, dec);
+    return true;
+}
+
+PolarCoord Projector::DirectionOfOffset(double dx, double dy, double dec)
+{
     if (dec < 0.0) {
         dec = 0.0;
     }
+    double r = std::sqrt(dx * dx + dy * dy);
     if (r < 0.25) {
-        coord = PolarCoord(0.0, 90.0);
-        return true;
+        return PolarCoord(0.0, 90.0);
     }
     double ra = RadiansToDegrees(std::asin(dx / r));
     if (dy < 0.0) {
@@ -152,8 +158,7 @@ bool Projector::ReverseProject(const TPoint& point, PolarCoord& coord) const
     if (ra < 0.0) {
         ra += 360.0;
     }
-    coord = PolarCoord(ra, dec);
-    return true;
+    return PolarCoord(ra, dec);
 }
 
 int Projector::GetXExtent(const DegreeAngle& angle) const

@@ -85,6 +85,10 @@ protected:
     TPoint GetCornerPoint() const;
     // Pixels to the offset from the centre before the aspect: x right, y up.
     void ToOffset(const TPoint& point, double& dx, double& dy) const;
+    // The view-frame direction of an offset from the centre point whose angle from the centre
+    // is known: declination 90 less that angle (never below 0), right ascension clockwise from
+    // straight up; within a quarter unit of the centre, the centre itself.
+    static PolarCoord DirectionOfOffset(double dx, double dy, double dec);
     // The point at an offset from the centre point in device units, each axis truncated.
     TPoint ToPoint(double dx, double dy) const;
 
