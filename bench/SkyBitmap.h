@@ -24,28 +24,14 @@ public:
         : nWidth(width), nHeight(height), Screen(1, 1, PixelFormat::Rgb32),
           ScreenDc(Screen, DeviceCaps{})
     {
-        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
-        BITMAPINFOHEADER header{};
-        header.biSize = sizeof header;
-        header.biWidth = width;
-        header.biHeight = height;
-        header.biPlanes = 1;
-        header.biBitCount = 8;
-        header.biCompression = BI_RGB;
-        header.biSizeImage = DWORD(width) * DWORD(height);
-        header.biClrUsed = 256;
-        std::memcpy(info.data(), &header, sizeof header);
-        for (int i = 0; i < 256; ++i) {
-            WORD index = WORD(i);
-            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
-        }
         Dc = std::make_unique<TMemoryDC>(ScreenDc);
         Dc->SelectObject(HostPalette());
-        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
-                                   DIB_PAL_COLORS, &pBits, nullptr, 0);
+        hBitmap = CreatePaletteDIBSection(*Dc, width, height, &pBits);
         Bitmap = std::make_unique<TBitmap>(hBitmap);
         Dc->SelectObject(*Bitmap);
-        Parameters.SetFastDrawBitmapBits(pBits, header);
+        DIBSECTION section{};
+        GetObjectA(hBitmap, sizeof section, &section);
+        Parameters.SetFastDrawBitmapBits(pBits, section.dsBmih);
         Parameters.SetDC(Dc.get());
     }
     ~SkyBitmap()

@@ -19,23 +19,7 @@ constexpr int kHeight = 768;
 // The map's off-screen bitmap: an 8-bit bottom-up DIB section of the host palette.
 HBITMAP MakeMapBitmap(TDC& dc)
 {
-    struct
-    {
-        BITMAPINFOHEADER Header;
-        WORD Indexes[256];
-    } info{};
-    info.Header.biSize = sizeof(BITMAPINFOHEADER);
-    info.Header.biWidth = kWidth;
-    info.Header.biHeight = kHeight;
-    info.Header.biPlanes = 1;
-    info.Header.biBitCount = 8;
-    info.Header.biClrUsed = 256;
-    for (WORD i = 0; i < 256; ++i) {
-        info.Indexes[i] = i;
-    }
-    void* bits = nullptr;
-    return CreateDIBSection(dc, reinterpret_cast<BITMAPINFO*>(&info), DIB_PAL_COLORS, &bits,
-                            nullptr, 0);
+    return CreatePaletteDIBSection(&dc, kWidth, kHeight);
 }
 
 void SetPixels(benchmark::State& state, PixelFormat format)

@@ -30,28 +30,15 @@ class MapSurface
 public:
     MapSurface() : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen)
     {
-        struct
-        {
-            BITMAPINFOHEADER Header;
-            WORD Indexes[256];
-        } info{};
-        info.Header.biSize = sizeof(BITMAPINFOHEADER);
-        info.Header.biWidth = kWidth;
-        info.Header.biHeight = kHeight;
-        info.Header.biPlanes = 1;
-        info.Header.biBitCount = 8;
-        info.Header.biClrUsed = 256;
-        for (WORD i = 0; i < 256; ++i) {
-            info.Indexes[i] = i;
-        }
         Dc = std::make_unique<TMemoryDC>(ScreenDc);
         Dc->SelectObject(HostPalette());
         void* bits = nullptr;
-        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<BITMAPINFO*>(&info), DIB_PAL_COLORS, &bits,
-                                   nullptr, 0);
+        hBitmap = CreatePaletteDIBSection(*Dc, kWidth, kHeight, &bits);
         Bitmap = std::make_unique<TBitmap>(hBitmap);
         Dc->SelectObject(*Bitmap);
-        Parameters.SetFastDrawBitmapBits(bits, info.Header);
+        DIBSECTION section{};
+        GetObjectA(hBitmap, sizeof section, &section);
+        Parameters.SetFastDrawBitmapBits(bits, section.dsBmih);
         Parameters.SetDC(Dc.get());
         Parameters.SetDrawRect(TRect(0, 0, kWidth, kHeight));
     }

@@ -112,23 +112,8 @@ public:
         Attr.Y = 0;
         Attr.W = kWidth;
         Attr.H = kHeight;
-        struct
-        {
-            BITMAPINFOHEADER Header;
-            WORD Indexes[256];
-        } info{};
-        info.Header.biSize = sizeof(BITMAPINFOHEADER);
-        info.Header.biWidth = kWidth;
-        info.Header.biHeight = kHeight;
-        info.Header.biPlanes = 1;
-        info.Header.biBitCount = 8;
-        info.Header.biClrUsed = 256;
-        for (WORD i = 0; i < 256; ++i) {
-            info.Indexes[i] = i;
-        }
         void* bits = nullptr;
-        hBitmap = CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_PAL_COLORS,
-                                   &bits, nullptr, 0);
+        hBitmap = CreatePaletteDIBSection(nullptr, kWidth, kHeight, &bits);
         // A sky of a few stars.
         auto* pixels = static_cast<BYTE*>(bits);
         for (int i = 0; i < kWidth * kHeight; i += 97) {

@@ -65,6 +65,33 @@ HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits
     return static_cast<HBITMAP>(GdiObject::AddHandle(bitmap));
 }
 
+HBITMAP CreatePaletteDIBSection(HDC dc, int width, int height, void** bits)
+{
+    struct
+    {
+        BITMAPINFOHEADER Header;
+        WORD Indexes[256];
+    } info{};
+    info.Header.biSize = sizeof(BITMAPINFOHEADER);
+    info.Header.biWidth = width;
+    info.Header.biHeight = height; // positive: bottom-up
+    info.Header.biPlanes = 1;
+    info.Header.biBitCount = 8;
+    info.Header.biCompression = BI_RGB;
+    info.Header.biSizeImage = DWORD(width > 0 ? width : 0) * DWORD(height > 0 ? height : 0);
+    info.Header.biClrUsed = 256;
+    for (WORD i = 0; i < 256; ++i) {
+        info.Indexes[i] = i;
+    }
+    void* pixels = nullptr;
+    HBITMAP bitmap = CreateDIBSection(dc, reinterpret_cast<const BITMAPINFO*>(&info),
+                                      DIB_PAL_COLORS, &pixels, nullptr, 0);
+    if (bits) {
+        *bits = pixels;
+    }
+    return bitmap;
+}
+
 int GetObjectA(HGDIOBJ object, int size, void* buffer)
 {
     std::shared_ptr<GdiObject> found = GdiObject::FromHandle(object);

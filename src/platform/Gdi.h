@@ -11,6 +11,10 @@
 // (the standard palette when `dc` is null). Null, and `*bits` null, for a header it refuses.
 HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
                          DWORD offset);
+// The sky map's kind of surface: an 8-bit bottom-up DIB section whose colour table is the
+// palette indexes 0 to 255 in order (DIB_PAL_COLORS), so that its pixels are indexes into the
+// palette selected into `dc`. `*bits`, when asked for, receives the pixels.
+HBITMAP CreatePaletteDIBSection(HDC dc, int width, int height, void** bits = nullptr);
 // Fills a BITMAP, or a DIBSECTION when there is room and the bitmap is one, or the WORD entry
 // count of a palette. Returns the bytes written, 0 for a bad handle or too small a buffer.
 int GetObjectA(HGDIOBJ object, int size, void* buffer);

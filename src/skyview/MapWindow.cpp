@@ -26,9 +26,6 @@ namespace {
 const PolarCoord kDefaultCentre(84.0, 0.0);
 constexpr double kDefaultFieldRadius = 45.0;
 
-// Entries of the colour table of the off-screen bitmap: 16-bit indexes into the palette.
-constexpr int kDrawBitmapColours = 256;
-
 // Points along a meridian, and along a parallel, of the grid.
 constexpr double kMeridianStepFraction = 0.02;   // 50 steps over the Dec span
 constexpr double kParallelStepFraction = 0.0125; // 80 steps over the RA span
@@ -133,27 +130,7 @@ void MapWindow::AllocateDrawBitmap(TDC& dc, const TSize& size)
     const int width = (size.cx + 7) / 8 * 8;
     const int height = size.cy;
 
-    // The header, then the colour table: palette indexes 0 to 255 in order.
-    std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + kDrawBitmapColours * sizeof(WORD));
-    BITMAPINFOHEADER header{};
-    header.biSize = sizeof(BITMAPINFOHEADER);
-    header.biWidth = width;
-    header.biHeight = height; // positive: bottom-up
-    header.biPlanes = 1;
-    header.biBitCount = 8;
-    header.biCompression = BI_RGB;
-    header.biSizeImage = DWORD(width) * DWORD(height > 0 ? height : 0);
-    header.biClrUsed = kDrawBitmapColours;
-    header.biClrImportant = 0;
-    std::memcpy(info.data(), &header, sizeof header);
-    for (int i = 0; i < kDrawBitmapColours; ++i) {
-        WORD index = WORD(i);
-        std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
-    }
-
-    void* bits = nullptr;
-    hDrawBitmap = CreateDIBSection(dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
-                                   DIB_PAL_COLORS, &bits, nullptr, 0);
+    hDrawBitmap = CreatePaletteDIBSection(dc, width, height);
     GiveDisplayTheBits();
 }
 

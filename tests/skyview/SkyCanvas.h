@@ -25,27 +25,10 @@ public:
     // `width` should be a multiple of 8, as the map's bitmap is.
     SkyCanvas(int width, int height) : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, Caps())
     {
-        std::vector<unsigned char> info(sizeof(BITMAPINFOHEADER) + 256 * sizeof(WORD));
-        BITMAPINFOHEADER header{};
-        header.biSize = sizeof(BITMAPINFOHEADER);
-        header.biWidth = width;
-        header.biHeight = height;
-        header.biPlanes = 1;
-        header.biBitCount = 8;
-        header.biCompression = BI_RGB;
-        header.biSizeImage = DWORD(width * height);
-        header.biClrUsed = 256;
-        std::memcpy(info.data(), &header, sizeof header);
-        for (int i = 0; i < 256; ++i) {
-            WORD index = WORD(i);
-            std::memcpy(info.data() + sizeof header + i * sizeof(WORD), &index, sizeof index);
-        }
-
         Dc = std::make_unique<TMemoryDC>(ScreenDc);
         Dc->SelectObject(HostPalette());
         void* bits = nullptr;
-        hBitmap = CreateDIBSection(*Dc, reinterpret_cast<const BITMAPINFO*>(info.data()),
-                                   DIB_PAL_COLORS, &bits, nullptr, 0);
+        hBitmap = CreatePaletteDIBSection(*Dc, width, height, &bits);
         Bitmap = std::make_unique<TBitmap>(hBitmap);
         Dc->SelectObject(*Bitmap);
         DIBSECTION section{};
