@@ -10,7 +10,6 @@
 namespace {
 
 constexpr COLORREF kFace = RGB(240, 240, 240);
-constexpr COLORREF kBorder = RGB(122, 122, 122);
 constexpr COLORREF kButtonFace = RGB(225, 225, 225);
 constexpr COLORREF kButtonBorder = RGB(173, 173, 173);
 constexpr COLORREF kPressedFace = RGB(204, 228, 247);
