@@ -1,8 +1,10 @@
 #include "host/SettingsStore.h"
 
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <sqlite3.h>
+#include <thread>
 
 #include "platform/DebugStream.h"
 
@@ -144,13 +146,26 @@ bool SettingsStore::Open()
 
 bool SettingsStore::Execute(const char* sql)
 {
-    char* error = nullptr;
-    if (sqlite3_exec(pDatabase, sql, nullptr, nullptr, &error) != SQLITE_OK) {
-        dbstream << "SettingsStore: " << (error ? error : "error") << dbendl;
+    // The busy timeout covers waiting for another writer, but SQLite answers "locked" at once,
+    // without waiting, while a second process switches a new file to the write-ahead log or
+    // recovers one; so a busy answer is tried again here within the same five seconds. Every
+    // statement given here may run twice without harm.
+    auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    for (;;) {
+        char* error = nullptr;
+        int result = sqlite3_exec(pDatabase, sql, nullptr, nullptr, &error);
+        if (result == SQLITE_OK) {
+            return true;
+        }
+        bool busy = (result & 0xFF) == SQLITE_BUSY || (result & 0xFF) == SQLITE_LOCKED;
+        if (!busy || std::chrono::steady_clock::now() >= deadline) {
+            dbstream << "SettingsStore: " << (error ? error : "error") << dbendl;
+            sqlite3_free(error);
+            return false;
+        }
         sqlite3_free(error);
-        return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
-    return true;
 }
 
 bool SettingsStore::Begin()
