@@ -5,16 +5,11 @@
 
 #include <memory>
 
+#include "SkyBitmap.h"
 #include "catalogues/AstroBitmap.h"
-#include "platform/Gdi.h"
-#include "platform/HostPalette.h"
 #include "platform/ModuleResources.h"
-#include "platform/Surface.h"
-#include "platform/TBitmap.h"
 #include "platform/TDib.h"
-#include "platform/TMemoryDC.h"
 #include "projection/Transformation.h"
-#include "skyview/DisplayParameters.h"
 #include "solar/MoonView.h"
 #include "solar/PlanetCatalogue.h"
 
@@ -22,45 +17,6 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
-
-// The map's off-screen surface: an 8-bit bottom-up DIB section of the host palette, selected
-// into a memory context, its bits handed to the display parameters.
-class MapSurface
-{
-public:
-    MapSurface() : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen)
-    {
-        Dc = std::make_unique<TMemoryDC>(ScreenDc);
-        Dc->SelectObject(HostPalette());
-        void* bits = nullptr;
-        hBitmap = CreatePaletteDIBSection(*Dc, kWidth, kHeight, &bits);
-        Bitmap = std::make_unique<TBitmap>(hBitmap);
-        Dc->SelectObject(*Bitmap);
-        DIBSECTION section{};
-        GetObjectA(hBitmap, sizeof section, &section);
-        Parameters.SetFastDrawBitmapBits(bits, section.dsBmih);
-        Parameters.SetDC(Dc.get());
-        Parameters.SetDrawRect(TRect(0, 0, kWidth, kHeight));
-    }
-    ~MapSurface()
-    {
-        Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
-        Dc.reset();
-        Bitmap.reset();
-        DeleteObject(hBitmap);
-    }
-
-    TDC& GetDC() { return *Dc; }
-
-    DisplayParameters Parameters;
-
-private:
-    Surface Screen;
-    TDC ScreenDc;
-    std::unique_ptr<TMemoryDC> Dc;
-    HBITMAP hBitmap = nullptr;
-    std::unique_ptr<TBitmap> Bitmap;
-};
 
 AstroTime AtCenturies(double T)
 {
@@ -70,14 +26,15 @@ AstroTime AtCenturies(double T)
 // The Moon in a field of `radius` degrees centred on it; 5 degrees makes it some 38 pixels.
 void DrawMoon(benchmark::State& state, bool newScaleEachFrame)
 {
-    MapSurface map;
+    SkyBitmap map(kWidth, kHeight);
+    map.Parameters.SetDrawRect(TRect(0, 0, kWidth, kHeight));
     PlanetCatalogue planets;
     planets.SetTime(AtCenturies(0.0));
     auto* moon = static_cast<MoonView*>(planets.GetView(PlanetCatalogue::kMoonPlace));
     const PolarCoord place = moon->GetPosition();
-    Transformation narrow(map.GetDC(), TRect(0, 0, kWidth, kHeight), place, 5.0,
+    Transformation narrow(*map.Dc, TRect(0, 0, kWidth, kHeight), place, 5.0,
                           PolarCoord(0.0, 90.0));
-    Transformation wide(map.GetDC(), TRect(0, 0, kWidth, kHeight), place, 5.5,
+    Transformation wide(*map.Dc, TRect(0, 0, kWidth, kHeight), place, 5.5,
                         PolarCoord(0.0, 90.0));
     TPoint point;
     narrow.Translate(place, point);
@@ -86,7 +43,7 @@ void DrawMoon(benchmark::State& state, bool newScaleEachFrame)
     for (auto _ : state) {
         map.Parameters.pTransformation = newScaleEachFrame && useWide ? &wide : &narrow;
         useWide = !useWide;
-        moon->Draw(map.GetDC(), map.Parameters);
+        moon->Draw(*map.Dc, map.Parameters);
     }
     state.SetItemsProcessed(state.iterations());
 }

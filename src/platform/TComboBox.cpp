@@ -260,7 +260,7 @@ std::string TComboBox::GetString(int index) const
     return aItems[std::size_t(index)].Text;
 }
 
-int TComboBox::Find(const std::string& text, int startAfter, bool exact) const
+int TComboBox::FindItem(const std::string& text, int startAfter, bool exact) const
 {
     int count = int(aItems.size());
     if (count == 0) {
@@ -284,12 +284,12 @@ int TComboBox::Find(const std::string& text, int startAfter, bool exact) const
 
 int TComboBox::FindString(const std::string& prefix, int startAfter) const
 {
-    return Find(prefix, startAfter, false);
+    return FindItem(prefix, startAfter, false);
 }
 
 int TComboBox::FindExactString(const std::string& text, int startAfter) const
 {
-    return Find(text, startAfter, true);
+    return FindItem(text, startAfter, true);
 }
 
 int TComboBox::SetSelString(const std::string& prefix, int startAfter)

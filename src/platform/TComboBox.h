@@ -71,7 +71,7 @@ private:
     TRect ButtonRect() const;
     void ShowSelectionText();
     void UserSelect(int index);
-    int Find(const std::string& text, int startAfter, bool exact) const;
+    int FindItem(const std::string& text, int startAfter, bool exact) const;
     bool HandleListKey(UINT key);
 
     std::vector<Item> aItems;

@@ -258,7 +258,7 @@ bool TListBox::Matches(int index, const std::string& text, bool exact) const
            EqualNoCase(std::string_view(row).substr(0, text.size()), text);
 }
 
-int TListBox::Find(const std::string& text, int startAfter, bool exact) const
+int TListBox::FindItem(const std::string& text, int startAfter, bool exact) const
 {
     int count = GetCount();
     if (count == 0) {
@@ -279,12 +279,12 @@ int TListBox::Find(const std::string& text, int startAfter, bool exact) const
 
 int TListBox::FindString(const std::string& prefix, int startAfter) const
 {
-    return Find(prefix, startAfter, false);
+    return FindItem(prefix, startAfter, false);
 }
 
 int TListBox::FindExactString(const std::string& text, int startAfter) const
 {
-    return Find(text, startAfter, true);
+    return FindItem(text, startAfter, true);
 }
 
 int TListBox::SetSelString(const std::string& prefix, int startAfter)

@@ -80,7 +80,7 @@ private:
     void UpdateScrollBar();
     void KeepInView(int index);
     bool Matches(int index, const std::string& prefix, bool exact) const;
-    int Find(const std::string& text, int startAfter, bool exact) const;
+    int FindItem(const std::string& text, int startAfter, bool exact) const;
 
     std::vector<Item> aItems;
     TListBoxItemMaster* pMaster = nullptr;
