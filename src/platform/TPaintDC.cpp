@@ -3,7 +3,7 @@
 #include "platform/TWindow.h"
 
 TPaintDC::TPaintDC(TWindow& window)
-    : TDC(window.GetDrawingSurface(), window.GetDrawingCaps()), Window(window)
+    : TDC(window.GetDrawingSurface(), window.GetDrawingCaps())
 {
     if (std::optional<DrawingArea> area = window.GetDrawingArea()) {
         SetDeviceArea(area->Origin, area->Visible);

@@ -10,7 +10,4 @@ class TPaintDC : public TDC
 public:
     explicit TPaintDC(TWindow& window);
     ~TPaintDC() override;
-
-private:
-    TWindow& Window;
 };
