@@ -97,42 +97,26 @@ protected:
 
 } // namespace
 
-TEST_F(RotatingOrientationInfoTest, StartsEmptyWithClipOnAndKeepsWhatItIsGiven)
+TEST_F(RotatingOrientationInfoTest, StartsEmptyWithClipOnAndRaisesABuiltViewOnlyWithClipOn)
 {
     RotatingOrientationInfo empty(&Sky);
     EXPECT_EQ(empty.GetType(), OrientationInfo::ROTATING);
     EXPECT_STREQ(empty.GetTypeName(), "Rotating");
-    EXPECT_EQ(empty.GetOrigin(), &Sky);
     EXPECT_EQ(empty.GetLocation(), LatLong(0.0, 0.0));
     EXPECT_EQ(empty.GetZenithOffset(), PolarCoord(0.0, 0.0));
-    EXPECT_EQ(empty.GetFieldRadius(), 0.0);
     EXPECT_TRUE(empty.GetClipAtHorizon());
 
-    RotatingOrientationInfo view(&Sky, LatLong(37.8, 122.4), PolarCoord(270.0, 60.0), 20.0, true);
-    EXPECT_EQ(view.GetLocation(), LatLong(37.8, 122.4));
-    EXPECT_EQ(view.GetZenithOffset(), PolarCoord(270.0, 60.0)) << "within the limit";
-    EXPECT_EQ(view.GetFieldRadius(), 20.0);
-
-    view.SetLocation(LatLong(-33.9, 208.8));
-    EXPECT_EQ(view.GetLocation(), LatLong(-33.9, 208.8));
-    EXPECT_EQ(view.GetZenithOffset(), PolarCoord(270.0, 60.0)) << "the location alone changes";
-    view.SetClipAtHorizon(false);
-    EXPECT_FALSE(view.GetClipAtHorizon());
-    EXPECT_EQ(view.GetZenithOffset(), PolarCoord(270.0, 60.0)) << "the flag does not move it";
-}
-
-TEST_F(RotatingOrientationInfoTest, ABuiltViewBelowTheLimitIsRaisedOnlyWithClipOn)
-{
+    // 5 degrees up with a field of 20: raised to 20 degrees up, or left where it is.
     const RotatingOrientationInfo clipped(&Sky, Place, Looking(180.0, 5.0), 20.0, true);
-    EXPECT_DOUBLE_EQ(clipped.GetZenithOffset().GetDec().GetDegrees(), 70.0);
-    EXPECT_DOUBLE_EQ(clipped.GetZenithOffset().GetRA().GetDegrees(), 180.0);
+    EXPECT_EQ(clipped.GetZenithOffset(), PolarCoord(180.0, 70.0));
+    RotatingOrientationInfo free(&Sky, Place, Looking(180.0, 5.0), 20.0, false);
+    EXPECT_EQ(free.GetZenithOffset(), PolarCoord(180.0, 85.0));
 
-    const RotatingOrientationInfo free(&Sky, Place, Looking(180.0, 5.0), 20.0, false);
-    EXPECT_DOUBLE_EQ(free.GetZenithOffset().GetDec().GetDegrees(), 85.0);
-
-    // Exactly at the limit nothing moves.
-    const RotatingOrientationInfo edge(&Sky, Place, PolarCoord(180.0, 70.0), 20.0, true);
-    EXPECT_DOUBLE_EQ(edge.GetZenithOffset().GetDec().GetDegrees(), 70.0);
+    // Neither a new place nor the switch moves the view.
+    free.SetLocation(LatLong(-33.9, 208.8));
+    free.SetClipAtHorizon(true);
+    EXPECT_EQ(free.GetLocation(), LatLong(-33.9, 208.8));
+    EXPECT_EQ(free.GetZenithOffset(), PolarCoord(180.0, 85.0));
 }
 
 // Azimuth 0 is north and grows through west: 0 north, 90 west, 180 south, 270 east.
@@ -381,12 +365,8 @@ TEST_F(RotatingOrientationInfoTest, CloneAlwaysClipsWhileACopyKeepsTheFlag)
     // Every field counts for equality.
     const RotatingOrientationInfo base(&Sky, Place, PolarCoord(200.0, 50.0), 20.0, true);
     EXPECT_EQ(base, RotatingOrientationInfo(&Sky, Place, PolarCoord(200.0, 50.0), 20.0, true));
-    StillBody other(100.0);
-    EXPECT_NE(base, RotatingOrientationInfo(&other, Place, PolarCoord(200.0, 50.0), 20.0, true));
     EXPECT_NE(base, RotatingOrientationInfo(&Sky, LatLong(41.0, 0.0), PolarCoord(200.0, 50.0), 20.0,
                                             true));
-    EXPECT_NE(base, RotatingOrientationInfo(&Sky, Place, PolarCoord(201.0, 50.0), 20.0, true));
-    EXPECT_NE(base, RotatingOrientationInfo(&Sky, Place, PolarCoord(200.0, 50.0), 21.0, true));
     EXPECT_NE(base, RotatingOrientationInfo(&Sky, Place, PolarCoord(200.0, 50.0), 20.0, false));
 }
 
@@ -409,19 +389,6 @@ TEST_F(RotatingOrientationInfoTest, StateHoldsRadiusLocationAndOffsetButNotTheCl
     EXPECT_EQ(restored.GetZenithOffset(), PolarCoord(270.0, 60.0));
     EXPECT_FALSE(restored.GetClipAtHorizon()) << "the flag it was built with";
     EXPECT_EQ(restored.GetOrigin(), nullptr) << "the origin is not state";
-
-    // Doubles keep six significant digits; nothing is limited on the way in.
-    const RotatingOrientationInfo fine(&Sky, LatLong(-33.8688197, 208.7906),
-                                       PolarCoord(123.456789, 88.0), 30.0, false);
-    CmdLineStateContainer fineWriter;
-    fineWriter << AstroKey("Orientation") << fine;
-    CmdLineStateContainer fineReader(fineWriter.GetCmdLine());
-    RotatingOrientationInfo back(&Sky);
-    fineReader >> AstroKey("Orientation") >> back;
-    EXPECT_DOUBLE_EQ(back.GetLocation().GetLatitude().GetDegrees(), -33.8688);
-    EXPECT_DOUBLE_EQ(back.GetLocation().GetLongitude().GetDegrees(), 208.791);
-    EXPECT_DOUBLE_EQ(back.GetZenithOffset().GetRA().GetDegrees(), 123.457);
-    EXPECT_DOUBLE_EQ(back.GetZenithOffset().GetDec().GetDegrees(), 88.0);
 
     // What is missing reads as 0.
     CmdLineStateContainer empty(HostCmdLine("Other=<Radius=5>"));
