@@ -55,9 +55,16 @@ void PrintUsage(std::FILE* out)
         "        --time \"YYYY-MM-DD HH:MM[:SS]\"\n"
         "                          the moment shown, in Universal Time (default: now)\n"
         "        --center RA,DEC   look at RA and Dec, in degrees, with north up (default:\n"
-        "                          the map's own view, Orion at RA 84, Dec 0)\n"
+        "                          the map's own view from San Francisco, east and 30\n"
+        "                          degrees up)\n"
+        "        --location LAT,LON  look from this place on the Earth, in degrees north and\n"
+        "                          east (a place west or south is negative); the view turns\n"
+        "                          with the sky and shows the horizon\n"
+        "        --look AZ,ALT     look from the ground this way: a compass bearing (0 north,\n"
+        "                          90 east) and an altitude in degrees; the view is raised\n"
+        "                          until its field clears the horizon (default: south, 30)\n"
         "        --radius DEG      degrees from the centre to the nearer edge, above 0 and\n"
-        "                          at most 90 (default 45)\n"
+        "                          at most 90 (default 20)\n"
         "        --grid            show the grid of right ascension and declination\n"
         "        --limit MAG       show stars down to this magnitude (default 6)\n"
         "\n"
@@ -66,6 +73,7 @@ void PrintUsage(std::FILE* out)
         "\n"
         "Without a display (neither DISPLAY nor WAYLAND_DISPLAY set) use render, e.g.\n"
         "  orbiscope render --out sky.png --center 0,90 --radius 60 --grid\n"
+        "  orbiscope render --out south.png --location 50,8.7 --look 180,20 --radius 40\n"
         "\n"
         "The component is loaded from liborbiscope.so beside the program, or from the file\n"
         "that ORBISCOPE_LIBRARY names.\n",
@@ -259,6 +267,16 @@ bool ParseCenter(const std::string& text, OrbiscopeView& view)
     return true;
 }
 
+// Two numbers "A,B", each within its bounds.
+bool ParsePair(const std::string& text, double& first, double& second, double firstLow,
+               double firstHigh, double secondLow, double secondHigh)
+{
+    std::size_t comma = text.find(',');
+    return comma != std::string::npos && ParseNumber(text.substr(0, comma), first) &&
+           ParseNumber(text.substr(comma + 1), second) && first >= firstLow && first <= firstHigh &&
+           second >= secondLow && second <= secondHigh;
+}
+
 struct RenderRequest
 {
     std::string Out;
@@ -328,6 +346,30 @@ bool ParseRender(const std::vector<std::string>& args, RenderRequest& request, s
                         "\"";
                 return false;
             }
+        } else if (name == "--location") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParsePair(text, request.View.Latitude, request.View.Longitude, -90.0, 90.0, -360.0,
+                           360.0)) {
+                error = "--location takes LAT,LON in degrees north and east, LAT from -90 to "
+                        "90, not \"" +
+                        text + "\"";
+                return false;
+            }
+            request.View.bLocation = 1;
+        } else if (name == "--look") {
+            if (!value(text)) {
+                return false;
+            }
+            if (!ParsePair(text, request.View.Azimuth, request.View.Altitude, -360.0, 360.0, -90.0,
+                           90.0)) {
+                error = "--look takes AZ,ALT in degrees, a bearing and an altitude from -90 to "
+                        "90, not \"" +
+                        text + "\"";
+                return false;
+            }
+            request.View.bLook = 1;
         } else if (name == "--radius") {
             if (!value(text)) {
                 return false;
@@ -362,6 +404,11 @@ bool ParseRender(const std::vector<std::string>& args, RenderRequest& request, s
     }
     if (request.Out.empty()) {
         error = "render needs --out FILE, the picture to write";
+        return false;
+    }
+    if (request.View.bCenter && (request.View.bLocation || request.View.bLook)) {
+        error = "--center looks at the stars and --location and --look from the ground: give "
+                "one or the other";
         return false;
     }
     request.Command = Join(words);

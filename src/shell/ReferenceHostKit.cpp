@@ -1,5 +1,6 @@
 #include "shell/ReferenceHostKit.h"
 
+#include <cmath>
 #include <cstdio>
 #include <map>
 #include <memory>
@@ -13,6 +14,7 @@
 #include "platform/headless/HeadlessBackend.h"
 #include "platform/sdl/SdlBackend.h"
 #include "projection/FixedOrientationInfo.h"
+#include "projection/RotatingOrientationInfo.h"
 #include "shell/AstroNoxWindow.h"
 #include "skyview/MapWindow.h"
 
@@ -23,6 +25,36 @@ StandardHostFrame& Frame()
 {
     static StandardHostFrame frame;
     return frame;
+}
+
+// A view from the ground when nothing else is known: south, 30 degrees up.
+constexpr double kFirstAzimuth = 180.0;
+constexpr double kFirstZenithDistance = 60.0;
+
+// Degrees east to the component's degrees west, 0 to 360; a compass bearing (north through
+// east) to the component's azimuth (north through west) alike.
+double TurnedRound(double degrees)
+{
+    double turned = std::fmod(360.0 - degrees, 360.0);
+    return turned < 0.0 ? turned + 360.0 : turned;
+}
+
+// The view on the ground that `view` asks for, from what it gives and what the map has.
+RotatingOrientationInfo GroundView(const MapWindow& map, const OrbiscopeView& view)
+{
+    const OrientationInfo& present = map.GetOrientation();
+    const auto* ground = dynamic_cast<const RotatingOrientationInfo*>(&present);
+    LatLong place = ground ? ground->GetLocation() : LatLong(0.0, 0.0);
+    if (view.bLocation) {
+        place = LatLong(view.Latitude, TurnedRound(view.Longitude));
+    }
+    PolarCoord offset =
+        ground ? ground->GetZenithOffset() : PolarCoord(kFirstAzimuth, kFirstZenithDistance);
+    if (view.bLook) {
+        offset = PolarCoord(TurnedRound(view.Azimuth), 90.0 - view.Altitude);
+    }
+    const double radius = view.bRadius ? view.Radius : present.GetFieldRadius();
+    return RotatingOrientationInfo(present.GetOrigin(), place, offset, radius, true);
 }
 
 std::map<std::uint32_t, std::unique_ptr<HostFrameWindow>>& Frames()
@@ -97,7 +129,9 @@ int SetView(std::uint32_t component, const OrbiscopeView* view)
         const double hours = view->nHour + view->nMinute / 60.0 + view->Second / 3600.0;
         map->SetTime(AstroTime(unsigned(view->nDay), unsigned(view->nMonth), view->nYear, hours));
     }
-    if (view->bCenter) {
+    if (view->bLocation || view->bLook) {
+        map->SetOrientation(GroundView(*map, *view));
+    } else if (view->bCenter) {
         const PolarCoord centre(view->RA, view->Dec);
         const double radius = view->bRadius ? view->Radius : map->GetOrientation().GetFieldRadius();
         map->SetOrientation(FixedOrientationInfo(map->GetOrientation().GetOrigin(), centre,

@@ -36,6 +36,18 @@ struct OrbiscopeView
     // The faintest magnitude shown.
     int bLimit;
     double LimitingMagnitude;
+    // A view from the ground, which turns with the sky, instead of one fixed on the stars. The
+    // place: latitude north and longitude east, in degrees.
+    int bLocation;
+    double Latitude;
+    double Longitude;
+    // The direction of view from there: a compass bearing (0 north, 90 east) and an altitude
+    // above the horizon, in degrees. The view is raised as far as needed for its field to stay
+    // above the horizon. What is not given is that of the map's present view from the ground,
+    // or else the place 0, 0 and south, 30 degrees up.
+    int bLook;
+    double Azimuth;
+    double Altitude;
 };
 
 struct OrbiscopeHostKit
@@ -63,7 +75,7 @@ struct OrbiscopeHostKit
     void (*CloseDesktop)(void);
 };
 
-inline constexpr int kOrbiscopeHostKitVersion = 1;
+inline constexpr int kOrbiscopeHostKitVersion = 2;
 
 const OrbiscopeHostKit* orbiscope_host_kit(void);
 

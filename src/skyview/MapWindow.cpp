@@ -2,19 +2,26 @@
 
 #include <cmath>
 #include <cstring>
+#include <filesystem>
 
 #include "catalogues/AstroObject.h"
+#include "coords/PositiveDegreeAngle.h"
 #include "coords/StellarCoord.h"
+#include "host/HostFile.h"
 #include "host/HostProf.h"
+#include "platform/DebugStream.h"
 #include "platform/Gdi.h"
 #include "platform/TBitmap.h"
 #include "platform/TBrush.h"
+#include "platform/TDib.h"
 #include "platform/TFont.h"
 #include "platform/TMemoryDC.h"
 #include "platform/TPalette.h"
 #include "platform/TPen.h"
 #include "platform/WindowCalls.h"
 #include "projection/FixedOrientationInfo.h"
+#include "projection/PerspectiveModifier.h"
+#include "projection/RotatingOrientationInfo.h"
 #include "skyview/DrawTimeLimit.h"
 #include "skyview/StarDisplayParameters.h"
 #include "solar/SolarSystemObject.h"
@@ -22,9 +29,21 @@
 
 namespace {
 
-// The view a new map opens on: Orion, north up, 45 degrees to the nearer edge.
-const PolarCoord kDefaultCentre(84.0, 0.0);
-constexpr double kDefaultFieldRadius = 45.0;
+// The view a new map opens on: from San Francisco (longitude positive west), east at an
+// altitude of 30 degrees (azimuth 270, zenith distance 60), 20 degrees to the nearer edge.
+const LatLong kDefaultLocation(37.8, 122.4);
+const PolarCoord kDefaultZenithOffset(270.0, 60.0);
+constexpr double kDefaultFieldRadius = 20.0;
+
+// The horizon: a magenta line through this many points, drawn once the field comes within
+// the margin (degrees) of it.
+constexpr int kHorizonPoints = 200;
+constexpr double kHorizonMargin = 15.0;
+const TColor kHorizonColor(255, 0, 255);
+
+// The raster operation that clears the foreground where the mask is white: destination AND
+// NOT source.
+constexpr DWORD kDestinationAndNotSource = 0x00220326;
 
 // Points along a meridian, and along a parallel, of the grid.
 constexpr double kMeridianStepFraction = 0.02;   // 50 steps over the Dec span
@@ -51,9 +70,9 @@ MapWindow::MapWindow(TWindow* parent)
     aGridLines.OwnsElements(true);
     SetBkgndColor(TColor(0, 0, 0));
     if (!pOrientation) {
-        pOrientation = std::make_unique<FixedOrientationInfo>(
-            Collector.GetOrigin(), kDefaultCentre,
-            FixedOrientationInfo::NorthUpZenith(kDefaultCentre), kDefaultFieldRadius);
+        pOrientation = std::make_unique<RotatingOrientationInfo>(
+            Collector.GetOrigin(), kDefaultLocation, kDefaultZenithOffset, kDefaultFieldRadius,
+            true);
     }
     bMilitaryTime = HostProfile().GetBool("Orbiscope", "MilitaryTime", false);
 }
@@ -68,6 +87,8 @@ MapWindow::~MapWindow()
     pOrientation.reset();
     pMemoryDC.reset();
     FreeDrawBitmap();
+    pHorizonOrientation.reset();
+    DeleteForegroundBitmap();
     pPendingCenter.reset();
 }
 
@@ -117,6 +138,9 @@ void MapWindow::Paint(TDC& dc, bool, TRect& rect)
     if (pMemoryDC) {
         dc.SelectObject(*Display.GetPalette(), forceBackground);
         dc.RealizePalette();
+        if (bUseForeground) {
+            MergeForeground(*pMemoryDC, rect);
+        }
         dc.BitBlt(rect, *pMemoryDC, rect.TopLeft(), SRCCOPY);
     }
     if (pStartingObject) {
@@ -181,6 +205,11 @@ void MapWindow::DrawAll()
     if (timeChanged) {
         if (SolarSystemObject* origin = Collector.GetOrigin()) {
             origin->SetTime(Time);
+        }
+        // A view on the ground turns with the sky: new time, new projection.
+        if (pOrientation->GetType() == OrientationInfo::ROTATING) {
+            bTransformationDirty = true;
+            bGridDirty = true;
         }
         bTimeDirty = false;
     }
@@ -257,6 +286,13 @@ void MapWindow::DrawAll()
     }
     Labels.Draw(dc);
 
+    if (limit.IsExpired()) {
+        return;
+    }
+    if (RotatingOrientationInfo* ground = GetRotatingOrientation();
+        ground && Display.bShowHorizon) {
+        DrawHorizon(dc, *ground, *pTransformation, rect);
+    }
     if (limit.IsExpired()) {
         return;
     }
@@ -473,6 +509,213 @@ void MapWindow::DisplayStatus(TDC& dc, const TRect&)
     dc.RestoreFont();
 }
 
+// The horizon and the foreground.
+
+void MapWindow::DrawHorizon(TDC& dc, const RotatingOrientationInfo& o, const Transformation& t,
+                            const TRect& rect)
+{
+    const PolarCoord offset = o.GetZenithOffset();
+    const double radius = t.GetProjector().GetFieldRadius();
+    // The zenith distance of the view plus the radius: how far down the field reaches.
+    if (offset.GetDec().GetDegrees() + radius < 90.0 - kHorizonMargin) {
+        return;
+    }
+    dc.SelectObject(TPen(kHorizonColor, 1, PS_SOLID));
+
+    const bool kept = !HorizonPoints.empty() && pHorizonOrientation &&
+                      pHorizonOrientation->GetFieldRadius() == o.GetFieldRadius() &&
+                      pHorizonOrientation->GetZenithOffset() == offset && HorizonRect == rect;
+    if (!kept) {
+        HorizonPoints.clear();
+        // A plain copy, not a Clone: a clone would clip, and a view below the limit would
+        // then never find its points kept.
+        pHorizonOrientation = std::make_unique<RotatingOrientationInfo>(o);
+        HorizonRect = rect;
+        // Altitude 0 from the azimuth of view less the radius to the azimuth plus it, in the
+        // local frame of the projection's zenith.
+        const PerspectiveModifier local(RotatingOrientationInfo::KeepOffPole(t.GetZenith()),
+                                        PolarCoord(0.0, 90.0));
+        const double step = 2.0 * radius / kHorizonPoints;
+        PositiveDegreeAngle azimuth(offset.GetRA().GetDegrees() - radius);
+        HorizonPoints.reserve(kHorizonPoints);
+        for (int i = 0; i < kHorizonPoints; ++i) {
+            PolarCoord sky;
+            local.ReversePerspective(PolarCoord(azimuth, DegreeAngle(0.0)), sky);
+            // Points beyond the visible radius are drawn to as they come.
+            TPoint p;
+            t.Translate(sky, p);
+            HorizonPoints.push_back(p);
+            azimuth = PositiveDegreeAngle(azimuth.GetDegrees() + step);
+        }
+    }
+
+    dc.MoveTo(HorizonPoints.front());
+    for (std::size_t i = 1; i < HorizonPoints.size(); ++i) {
+        dc.LineTo(HorizonPoints[i]);
+    }
+    dc.RestorePen();
+}
+
+void MapWindow::SetForegroundBitmap(const std::string& foreground, const std::string& mask)
+{
+    ForegroundFile = foreground;
+    MaskFile = mask;
+    bUseForeground = true;
+    bForegroundProblemTold = false;
+    DeleteForegroundBitmap();
+}
+
+void MapWindow::SetMaskBitmap(const std::string& mask)
+{
+    MaskFile = mask;
+    bUseForeground = true;
+    bForegroundProblemTold = false;
+    DeleteForegroundBitmap();
+}
+
+void MapWindow::DeleteForegroundBitmap()
+{
+    pForegroundBitmap.reset();
+    pMaskBitmap.reset();
+}
+
+namespace {
+
+// A picture file's path with the host's logical prefixes resolved, and whether it is there.
+bool FindPicture(const std::string& file, std::string& path)
+{
+    path = file;
+    HostFile::ResolvePath(path, true, false);
+    std::error_code error;
+    return !file.empty() && std::filesystem::is_regular_file(path, error);
+}
+
+// Stretches `picture` over the whole of `bitmap`, in the host palette.
+void StretchInto(TDC& model, TBitmap& bitmap, const TDib& picture, const TPalette& palette)
+{
+    TMemoryDC memory(model);
+    memory.SelectObject(palette, true);
+    memory.SelectObject(bitmap);
+    memory.RealizePalette();
+    memory.StretchDIBits(TRect(0, 0, bitmap.Width(), bitmap.Height()),
+                         TRect(0, 0, picture.Width(), picture.Height()), picture, SRCCOPY);
+}
+
+} // namespace
+
+void MapWindow::LoadForegroundBitmap(TDC& dc)
+{
+    if (ForegroundFile.empty()) {
+        bUseForeground = false;
+        return;
+    }
+    DeleteForegroundBitmap();
+
+    // Told once per setting, so that a file looked for at every paint says so once.
+    auto tell = [this](const char* what, const std::string& file) {
+        if (!bForegroundProblemTold) {
+            dbstream << "Foreground: " << what << " " << file << dbendl;
+            bForegroundProblemTold = true;
+        }
+    };
+
+    std::string path;
+    if (!FindPicture(ForegroundFile, path)) {
+        tell("no picture file", ForegroundFile);
+        return;
+    }
+    const TDib picture(path);
+    if (!picture.IsOK()) {
+        tell("cannot read the picture", path);
+        bUseForeground = false;
+        return;
+    }
+    const TRect client = GetClientRect();
+    if (client.IsEmpty()) {
+        return;
+    }
+    const TPalette& palette = *Display.GetPalette();
+    pForegroundBitmap = std::make_unique<TBitmap>(dc, client.Width(), client.Height());
+    StretchInto(dc, *pForegroundBitmap, picture, palette);
+
+    // The mask goes pixel for pixel over the foreground, so it takes the window's size too.
+    // Without a mask the picture would hide the whole sky: no overlay, as for a picture that
+    // cannot be read, but a missing file is looked for again.
+    std::string maskPath;
+    if (!FindPicture(MaskFile, maskPath)) {
+        tell("no mask file", MaskFile);
+        DeleteForegroundBitmap();
+        if (MaskFile.empty()) {
+            bUseForeground = false;
+        }
+        return;
+    }
+    const TDib mask(maskPath);
+    if (!mask.IsOK()) {
+        tell("cannot read the mask", maskPath);
+        DeleteForegroundBitmap();
+        bUseForeground = false;
+        return;
+    }
+    pMaskBitmap = std::make_unique<TBitmap>(dc, client.Width(), client.Height());
+    StretchInto(dc, *pMaskBitmap, mask, palette);
+
+    // Where the mask is white the foreground becomes black, ready to be ORed over the sky.
+    TMemoryDC maskDC(dc);
+    maskDC.SelectObject(*pMaskBitmap);
+    TMemoryDC foregroundDC(dc);
+    foregroundDC.SelectObject(*pForegroundBitmap);
+    foregroundDC.BitBlt(TRect(0, 0, client.Width(), client.Height()), maskDC, TPoint(0, 0),
+                        kDestinationAndNotSource);
+}
+
+void MapWindow::MergeForeground(TDC& dc, const TRect& rect)
+{
+    if (!pForegroundBitmap) {
+        LoadForegroundBitmap(dc);
+    }
+    if (!pForegroundBitmap || !pMaskBitmap) {
+        return;
+    }
+    // The sky stays where the mask is white (index 255) and turns black (index 0) elsewhere;
+    // the colours say so for a mask of one bit.
+    TMemoryDC maskDC(dc);
+    maskDC.SelectObject(*pMaskBitmap);
+    const TColor text = dc.SetTextColor(TColor::PaletteIndex(0));
+    const TColor background = dc.SetBkColor(TColor::PaletteIndex(255));
+    dc.BitBlt(rect, maskDC, rect.TopLeft(), SRCAND);
+    dc.SetTextColor(text);
+    dc.SetBkColor(background);
+
+    // The foreground, black where the sky shows, fills the black part.
+    TMemoryDC foregroundDC(dc);
+    foregroundDC.SelectObject(*Display.GetPalette(), true);
+    foregroundDC.SelectObject(*pForegroundBitmap);
+    foregroundDC.RealizePalette();
+    dc.BitBlt(rect, foregroundDC, rect.TopLeft(), SRCPAINT);
+}
+
+void MapWindow::ClipAtHorizon(bool clip)
+{
+    if (RotatingOrientationInfo* ground = GetRotatingOrientation()) {
+        ground->SetClipAtHorizon(clip);
+    }
+}
+
+bool MapWindow::IsClippedAtHorizon() const
+{
+    const RotatingOrientationInfo* ground = GetRotatingOrientation();
+    return ground && ground->GetClipAtHorizon();
+}
+
+RotatingOrientationInfo* MapWindow::GetRotatingOrientation() const
+{
+    if (pOrientation->GetType() != OrientationInfo::ROTATING) {
+        return nullptr;
+    }
+    return dynamic_cast<RotatingOrientationInfo*>(pOrientation.get());
+}
+
 // Message handlers.
 
 void MapWindow::EvSize(UINT sizeType, TSize& size)
@@ -483,6 +726,9 @@ void MapWindow::EvSize(UINT sizeType, TSize& size)
     InvalidateView();
     pMemoryDC.reset();
     FreeDrawBitmap();
+    if (bUseForeground) {
+        DeleteForegroundBitmap();
+    }
 }
 
 bool MapWindow::EvEraseBkgnd(HDC)
@@ -555,6 +801,18 @@ void MapWindow::SetFieldRadius(double radius)
         return;
     }
     pOrientation->SetFieldRadius(radius);
+    bTransformationDirty = true;
+    bGridDirty = true;
+    InvalidateView();
+}
+
+void MapWindow::SetLocation(const LatLong& location)
+{
+    RotatingOrientationInfo* ground = GetRotatingOrientation();
+    if (!ground) {
+        return;
+    }
+    ground->SetLocation(location);
     bTransformationDirty = true;
     bGridDirty = true;
     InvalidateView();
@@ -764,10 +1022,15 @@ void MapWindow::RestoreDefaultState(StateContainer& sc)
     AfterRestore();
 }
 
-void MapWindow::ReadOrientation(StateContainer& sc, int)
+void MapWindow::ReadOrientation(StateContainer& sc, int type)
 {
-    // Every saved kind comes back as a view fixed on the stars: the map has no other kind.
-    pOrientation = std::make_unique<FixedOrientationInfo>(Collector.GetOrigin());
+    // The object of the kind saved must exist before its key is read; any type but 0 is a view
+    // on the ground.
+    if (type == OrientationInfo::FIXED) {
+        pOrientation = std::make_unique<FixedOrientationInfo>(Collector.GetOrigin());
+    } else {
+        pOrientation = std::make_unique<RotatingOrientationInfo>(Collector.GetOrigin());
+    }
     sc >> AstroKey("Orientation") >> *pOrientation;
 }
 

@@ -11,12 +11,17 @@
 //
 // DrawAll runs one fixed order of steps: the time update, a pending centre, a new
 // Transformation when the projection changed, the request for objects, the background, the
-// grid, the objects, the status line. A draw is cut short only while the view scrolls, by the
-// scroll interval less 10 ms.
+// grid, the objects, the labels, the horizon, the status line. A draw is cut short only while
+// the view scrolls, by the scroll interval less 10 ms.
 //
-// The view is a FixedOrientationInfo looking at Orion (RA 84, Dec 0) with north up and a
-// field radius of 45 degrees until a view is set or restored. Angles are degrees, times are
-// Universal Time; the time zone is only for what the user reads.
+// Two overlays stand on the sky. The horizon is a line drawn into the bitmap when the view
+// stands on the ground (a RotatingOrientationInfo) and comes within 15 degrees of it. The
+// foreground is a picture with a mask (a landscape, a window frame) that Paint merges over
+// the finished sky on every copy to the screen.
+//
+// A new map looks east from San Francisco (latitude 37.8 N, longitude 122.4 W), 30 degrees
+// above the horizon with a field radius of 20 degrees, until a view is set or restored. Angles
+// are degrees, times are Universal Time; the time zone is only for what the user reads.
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -25,6 +30,7 @@
 #include "catalogues/AstroItemCollector.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/ReferenceArray.h"
+#include "coords/LatLong.h"
 #include "coords/PolarCoord.h"
 #include "platform/TPoint.h"
 #include "platform/TRect.h"
@@ -41,8 +47,10 @@
 #include "time/TimeZone.h"
 
 class AstroObject;
+class RotatingOrientationInfo;
 class StateContainer;
 class StarDisplayParameters;
+class TBitmap;
 class TMemoryDC;
 class TextFile;
 
@@ -85,6 +93,32 @@ public:
     // The red status line in the top left corner: local time, date and place.
     void DisplayStatus(TDC& dc, const TRect& rect);
 
+    // The horizon and the foreground.
+    // The horizon of `o` as a magenta line through 200 points over twice the field radius of
+    // `t`, centred on the azimuth of view; nothing when the field ends more than 15 degrees
+    // short of the horizon. The points are kept for the next draw of the same offset, radius
+    // and rectangle: they depend on the view against the horizon, not on the time.
+    void DrawHorizon(TDC& dc, const RotatingOrientationInfo& o, const Transformation& t,
+                     const TRect& rect);
+    // A picture and its mask (paths may carry the host's logical prefixes) to merge over the
+    // sky from the next paint on, which the caller brings about. White in the mask lets the
+    // sky through; black shows the picture. Both are stretched to the window.
+    void SetForegroundBitmap(const std::string& foreground, const std::string& mask);
+    void SetMaskBitmap(const std::string& mask);
+    // Drops the built pictures; the paths and the flag stay, so the next merge builds anew.
+    void DeleteForegroundBitmap();
+    // Builds both pictures at the size of the window, compatible with `dc`. A file that is
+    // missing is looked for again at the next paint; one that cannot be read turns the
+    // overlay off. Either is told on dbstream, once per setting.
+    void LoadForegroundBitmap(TDC& dc);
+    // Merges the foreground into `rect` of the off-screen context `dc`; doing it again over
+    // the same pixels gives the same picture.
+    void MergeForeground(TDC& dc, const TRect& rect);
+    // Whether the view may sink below the horizon; only a view on the ground has the switch.
+    // Raises no flag.
+    void ClipAtHorizon(bool clip);
+    bool IsClippedAtHorizon() const;
+
     // Message handlers.
     void EvSize(UINT sizeType, TSize& size);
     // The off-screen copy covers the window, so there is nothing to erase.
@@ -100,6 +134,8 @@ public:
     void SetTime(const AstroTime& time);
     // Ignored when unchanged or above 90 degrees.
     void SetFieldRadius(double radius);
+    // The observer's place; only a view on the ground has one.
+    void SetLocation(const LatLong& location);
     // The map keeps a copy.
     void SetOrientation(const OrientationInfo& orientation);
     // Applied at once unless the time is dirty; then the next draw applies it after the time
@@ -171,6 +207,12 @@ public:
     const TMemoryDC* GetMemoryDC() const { return pMemoryDC.get(); }
     HBITMAP GetDrawBitmap() const { return hDrawBitmap; }
     const std::string& GetStatusText() const { return StatusText; }
+    // The horizon's screen points of the last draw that drew it.
+    const std::vector<TPoint>& GetHorizonPoints() const { return HorizonPoints; }
+    bool IsUsingForeground() const { return bUseForeground; }
+    // The built foreground and mask; null until a merge builds them.
+    const TBitmap* GetForegroundBitmap() const { return pForegroundBitmap.get(); }
+    const TBitmap* GetMaskBitmap() const { return pMaskBitmap.get(); }
     const TRect& GetStatusRect() const { return StatusRect; }
     unsigned GetWaitCursorDepth() const { return nWaitCursors; }
 
@@ -194,6 +236,8 @@ private:
     void ReadOrientation(StateContainer& sc, int type);
     // The end of every restore: all dirty, repaint.
     void AfterRestore();
+    // The orientation when it is a view on the ground, else null.
+    RotatingOrientationInfo* GetRotatingOrientation() const;
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};
@@ -211,6 +255,9 @@ private:
     // Holds one reference.
     AstroObject* pStartingObject = nullptr;
     std::unique_ptr<OrientationInfo> pOrientation;
+    // A copy of the orientation, and the rectangle, for which HorizonPoints were worked out.
+    std::unique_ptr<RotatingOrientationInfo> pHorizonOrientation;
+    TRect HorizonRect;
     TModule* SavedCursorModule = nullptr;
     TResId SavedCursorId{0};
     std::uint32_t nWaitCursors = 0;
@@ -233,6 +280,14 @@ private:
     bool bShowMessier = false;
     bool bShowComets = false;
     bool bForceReload = false;
+    std::vector<TPoint> HorizonPoints;
+    std::string ForegroundFile;
+    std::string MaskFile;
+    std::unique_ptr<TBitmap> pForegroundBitmap;
+    std::unique_ptr<TBitmap> pMaskBitmap;
+    bool bUseForeground = false;
+    // A missing or unreadable picture of the present setting was told on dbstream.
+    bool bForegroundProblemTold = false;
     bool bShowPlanets = true;
     std::string LocationName;
     // The name of the object last brought into view; empty after the view moved freely.

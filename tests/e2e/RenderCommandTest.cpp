@@ -137,23 +137,21 @@ protected:
     void ExpectGolden(const std::string& name, const std::string& center, const std::string& radius,
                       const std::string& limit = "-30", bool grid = true)
     {
-        const fs::path picture = Dir / (name + ".png");
-        std::vector<std::string> args = {"render",
-                                         "--out",
-                                         picture.string(),
-                                         "--size",
-                                         "800x600",
-                                         "--time",
-                                         "2000-01-01 00:00",
-                                         "--center",
-                                         center,
-                                         "--radius",
-                                         radius,
-                                         "--limit",
-                                         limit};
+        std::vector<std::string> view = {"--center", center, "--radius", radius, "--limit", limit};
         if (grid) {
-            args.push_back("--grid");
+            view.push_back("--grid");
         }
+        ExpectGoldenView(name, view);
+    }
+
+    // Renders the view the options give at 2000 January 1, 0h UT, 800 by 600, and compares
+    // it with its golden picture.
+    void ExpectGoldenView(const std::string& name, const std::vector<std::string>& view)
+    {
+        const fs::path picture = Dir / (name + ".png");
+        std::vector<std::string> args = {"render",  "--out",  picture.string(),  "--size",
+                                         "800x600", "--time", "2000-01-01 00:00"};
+        args.insert(args.end(), view.begin(), view.end());
         Outcome made = Run(args);
         ASSERT_EQ(made.nExit, 0) << made.Err;
         PngImage actual;
@@ -199,6 +197,17 @@ TEST_F(RenderCommandTest, StarsOfOrionAndOfTheNorthernSkyMatchTheirPictures)
 {
     ExpectGolden("stars-orion-radius20", "84,0", "20", "6.5", false);
     ExpectGolden("stars-north-pole-radius90", "0,90", "90", "6", true);
+}
+
+// The view from the ground must not change unseen: from latitude 50 N, longitude 0, looking
+// south with a field of 60 degrees, asked for at 20 degrees up and raised to 60 so that the
+// field clears the horizon, whose magenta arc crosses the lower part of the picture. Orion,
+// Taurus and Gemini stand on the meridian at RA 100 to magnitude 5 with the grid round the
+// north pole above them, and Saturn and Jupiter low in the west, on the right.
+TEST_F(RenderCommandTest, TheViewFromFiftyNorthWithItsHorizonMatchesItsPicture)
+{
+    ExpectGoldenView("horizon-lat50-south-radius60", {"--location", "50,0", "--look", "180,20",
+                                                      "--radius", "60", "--grid", "--limit", "5"});
 }
 
 TEST_F(RenderCommandTest, RenderWritesThePictureOfTheSizeAskedForAndSaysSo)
@@ -285,6 +294,12 @@ TEST_F(RenderCommandTest, BadOptionsAreRefusedWithAMessageAndNoPicture)
         {{"render", "--out", out, "--limit", "bright"}, "--limit takes"},
         {{"render", "--out", out, "--grid=1"}, "--grid takes no value"},
         {{"render", "--out", out, "--zoom", "2"}, "unknown option --zoom"},
+        {{"render", "--out", out, "--location", "50"}, "--location takes"},
+        {{"render", "--out", out, "--location", "91,0"}, "--location takes"},
+        {{"render", "--out", out, "--location", "north,0"}, "--location takes"},
+        {{"render", "--out", out, "--look", "180,95"}, "--look takes"},
+        {{"render", "--out", out, "--look", "south"}, "--look takes"},
+        {{"render", "--out", out, "--center", "0,0", "--look", "180,20"}, "one or the other"},
     };
     for (const Case& c : cases) {
         Outcome o = Run(c.Args);
@@ -316,7 +331,8 @@ TEST_F(RenderCommandTest, WithoutADisplayTheProgramPointsToRender)
     EXPECT_EQ(help.nExit, 0);
     EXPECT_NE(help.Out.find("orbiscope [COMMAND]"), std::string::npos);
     EXPECT_NE(help.Out.find("orbiscope render --out FILE"), std::string::npos);
-    for (const char* option : {"--size", "--time", "--center", "--radius", "--grid", "--limit"}) {
+    for (const char* option : {"--size", "--time", "--center", "--location", "--look", "--radius",
+                               "--grid", "--limit"}) {
         EXPECT_NE(help.Out.find(option), std::string::npos) << option;
     }
     EXPECT_EQ(Run({"--version"}).Out, "orbiscope " ORBISCOPE_VERSION "\n");

@@ -7,7 +7,9 @@
 #include "ProjectionTesting.h"
 #include "coords/AngleMath.h"
 #include "platform/DebugStream.h"
+#include "projection/RotatingOrientationInfo.h"
 #include "projection/ScrollTransformation.h"
+#include "solar/Earth200.h"
 
 namespace {
 
@@ -211,4 +213,50 @@ TEST_F(ScrollTransformationTest, StoredVectorsCarryOverOnlyAfterAWholeStep)
     EXPECT_TRUE(ScrollTransformation(sideways, far.Make(Screen.DC())).Continues(flat));
     EXPECT_FALSE(ScrollTransformation(up, next.Make(Screen.DC())).Continues(flat));
     EXPECT_FALSE(ScrollTransformation(sideways, turned.Make(Screen.DC())).Continues(flat));
+}
+
+// The map's view on the ground stepping as it scrolls: every whole step carries the stored
+// vectors over; the step the horizon limit cuts off, and the one cut short below the zenith,
+// do not, although the orientation reports them done.
+TEST_F(ScrollTransformationTest, AViewOnTheGroundCarriesItsVectorsUntilALimitCutsAStep)
+{
+    Earth200 earth;
+    earth.SetTime(AstroTime(1, 1, 2000, 20.0));
+    auto frame = [&](const RotatingOrientationInfo& o, const AstroScrollInfo& info) {
+        return ScrollTransformation(info, Transformation(Screen.DC(), kScreen, o.GetCenterOfView(),
+                                                         o.GetFieldRadius(), o.GetZenith()));
+    };
+
+    AstroScrollInfo down(AstroScrollInfo::TOWARDS_HORIZON, 350, DegreeAngle(2.0));
+    RotatingOrientationInfo o(&earth, LatLong(40.0, 75.0), PolarCoord(200.0, 62.0), 20.0, true);
+    ScrollTransformation previous = frame(o, down);
+    for (double expected : {64.0, 66.0, 68.0, 70.0}) {
+        ASSERT_TRUE(o.Scroll(down));
+        EXPECT_DOUBLE_EQ(o.GetZenithOffset().GetDec().GetDegrees(), expected);
+        ScrollTransformation next = frame(o, down);
+        EXPECT_TRUE(next.Continues(previous)) << expected;
+        previous = next;
+    }
+    ASSERT_TRUE(o.Scroll(down)) << "at the limit the step counts as done";
+    EXPECT_FALSE(frame(o, down).Continues(previous)) << "but nothing moved";
+
+    AstroScrollInfo up(AstroScrollInfo::TOWARDS_ZENITH, 350, DegreeAngle(2.0));
+    RotatingOrientationInfo high(&earth, LatLong(40.0, 75.0), PolarCoord(200.0, 4.3), 20.0, true);
+    previous = frame(high, up);
+    ASSERT_TRUE(high.Scroll(up));
+    ScrollTransformation whole = frame(high, up);
+    EXPECT_TRUE(whole.Continues(previous));
+    ASSERT_TRUE(high.Scroll(up));
+    EXPECT_DOUBLE_EQ(high.GetZenithOffset().GetDec().GetDegrees(), 0.4);
+    EXPECT_FALSE(frame(high, up).Continues(whole)) << "the last step is 1.9 degrees, not 2";
+
+    // Along the horizon every step carries over.
+    AstroScrollInfo side(AstroScrollInfo::AZIMUTH_UP, 350, DegreeAngle(3.0));
+    previous = frame(o, side);
+    for (int i = 0; i < 5; ++i) {
+        ASSERT_TRUE(o.Scroll(side));
+        ScrollTransformation next = frame(o, side);
+        EXPECT_TRUE(next.Continues(previous)) << i;
+        previous = next;
+    }
 }

@@ -14,6 +14,7 @@
 #include "host/ScopedHome.h"
 #include "platform/Registry.h"
 #include "projection/FixedOrientationInfo.h"
+#include "projection/RotatingOrientationInfo.h"
 #include "shell/AstroNoxWindow.h"
 #include "shell/OrbiscopeEntry.h"
 #include "skyview/MapWindow.h"
@@ -191,6 +192,46 @@ TEST_F(AstroNoxWindowTest, TheDefaultStateIsKeptOnceThereIsALocationName)
     EXPECT_EQ(map.GetOrientation().GetCenterOfView(), PolarCoord(10, 20));
     EXPECT_DOUBLE_EQ(map.GetOrientation().GetFieldRadius(), 25.0);
     EXPECT_NE(map.GetTime().GetYear(), 0) << "the time is not part of the default";
+}
+
+// A view from the ground goes through a bookmark and the default state as its own kind, with
+// its place and its direction against the horizon.
+TEST_F(AstroNoxWindowTest, AViewFromTheGroundTravelsByBookmarkAndComesBackAtTheNextStart)
+{
+    const LatLong paris(48.85, 357.65);
+    const PolarCoord southWest(135.0, 55.0);
+    std::unique_ptr<HostBookmark> owned;
+    {
+        AstroNoxWindow& window = Start(kPleiadesView);
+        MapWindow& map = *window.GetMap();
+        map.SetOrientation(
+            RotatingOrientationInfo(map.GetCollector().GetOrigin(), paris, southWest, 25.0, true));
+        map.SetLocationName("Paris");
+        window.SetMessierObjectsDisplay(false);
+        owned.reset(reinterpret_cast<HostBookmark*>(
+            window.SendMessage(AstroNoxWindow::kCreateBookmarkMessage, 0, 0)));
+        ASSERT_NE(owned, nullptr);
+        EXPECT_NE(owned->Command.find("Orientation_Type=1"), std::string::npos) << owned->Command;
+        window.Destroy();
+    }
+
+    AstroNoxWindow& next = Start();
+    auto* ground = dynamic_cast<const RotatingOrientationInfo*>(&next.GetMap()->GetOrientation());
+    ASSERT_NE(ground, nullptr) << "the default state keeps the kind";
+    EXPECT_EQ(ground->GetLocation(), paris);
+    EXPECT_EQ(ground->GetZenithOffset(), southWest);
+    EXPECT_DOUBLE_EQ(ground->GetFieldRadius(), 25.0);
+
+    // A component that looks at the stars takes the bookmark's view from the ground.
+    next.HandleCommandString(kPleiadesView);
+    ASSERT_EQ(next.GetMap()->GetOrientation().GetType(), OrientationInfo::FIXED);
+    next.SendMessage(AstroNoxWindow::kNewBookmarkMessage, 0, reinterpret_cast<LPARAM>(owned.get()));
+    ground = dynamic_cast<const RotatingOrientationInfo*>(&next.GetMap()->GetOrientation());
+    ASSERT_NE(ground, nullptr);
+    EXPECT_EQ(ground->GetLocation(), paris);
+    EXPECT_EQ(ground->GetZenithOffset(), southWest);
+    Pump();
+    EXPECT_EQ(next.GetMap()->GetHorizonPoints().size(), 200u) << "the horizon is drawn";
 }
 
 TEST_F(AstroNoxWindowTest, ItAnswersWhichCapabilitiesItHas)

@@ -10,6 +10,7 @@
 #include "platform/TMemoryDC.h"
 #include "platform/TPalette.h"
 #include "platform/TWindow.h"
+#include "projection/FixedOrientationInfo.h"
 #include "skyview/MapWindow.h"
 #include "windows/HeadlessFixture.h"
 
@@ -56,12 +57,24 @@ protected:
         HeadlessTest::TearDown();
     }
 
-    // A map of that size on the screen, painted once. Unless `withStars`, no star is bright
-    // enough to be shown, so that the pixels a test looks at are the sky's own.
+    // A view fixed on Orion (RA 84, Dec 0) with north up, 45 degrees to the nearer edge: the
+    // same stars whatever the time, unlike the map's own view from the ground.
+    static const PolarCoord& Orion()
+    {
+        static const PolarCoord centre(84.0, 0.0);
+        return centre;
+    }
+    static constexpr double kOrionRadius = 45.0;
+
+    // A map of that size on the screen, looking at Orion, painted once. Unless `withStars`, no
+    // star is bright enough to be shown, so that the pixels a test looks at are the sky's own.
     MapWindow& Open(int width, int height, bool withStars = false)
     {
         pHost = std::make_unique<MapHost>(width, height);
         MapWindow& map = *pHost->pMap;
+        map.SetOrientation(FixedOrientationInfo(map.GetCollector().GetOrigin(), Orion(),
+                                                FixedOrientationInfo::NorthUpZenith(Orion()),
+                                                kOrionRadius));
         // The time zone of the machine running the tests must not show in the status line.
         map.SetTimeZone(TimeZone());
         if (!withStars) {
