@@ -185,18 +185,6 @@ TEST_F(MessierTest, ARecordIsThirtySevenBytesWithTheReservedBytesZero)
     EXPECT_EQ(copy.GetNumber(), 31);
 }
 
-TEST_F(MessierTest, ARecordCutShortIsNotRead)
-{
-    std::vector<unsigned char> bytes(Messier::kRecordSize - 1, 0);
-    bytes[0] = 7;
-    Dir.WriteBytes("short.bin", bytes);
-    HostFile file(Dir.File("short.bin"), HostFile::ReadOnly);
-    Messier object;
-    EXPECT_FALSE(object.Load(file));
-    EXPECT_EQ(object.GetNumber(), 0);
-    EXPECT_DOUBLE_EQ(object.GetMagnitude(), 99.9);
-}
-
 TEST_F(MessierTest, ObjectsSortByNumberNotByName)
 {
     auto m2 = Read("2 NGC 7089 21 33 27.01 - 00 49 23.9 6.25 GCl");
