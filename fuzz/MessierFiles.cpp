@@ -60,7 +60,8 @@ void LookAt(MessierCatalogue& catalogue)
             (void)object->GetDisplayPoint();
         }
     }
-    for (AstroObject* object : *catalogue.GetListOfNamedObjects()) {
+    const auto named = catalogue.GetListOfNamedObjects();
+    for (AstroObject* object : *named) {
         (void)object->GetListName();
         (void)object->GetTypeName();
         (void)object->GetUid();
