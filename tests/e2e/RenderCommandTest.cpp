@@ -364,8 +364,16 @@ TEST_F(RenderCommandTest, OnADisplayTheProgramShowsTheMapInItsFrameAndEndsWhenTo
                           << "i=0\n"
                           << "while [ $i -lt 200 ] && ! xdotool search --name '^Orbiscope$' "
                              ">/dev/null 2>&1; do sleep 0.1; i=$((i+1)); done\n"
-                          << "sleep 3\n"
-                          << "xwd -root -silent | convert xwd:- png:screen.png\n"
+                          // A loaded machine may take a while over the first frame: look
+                          // each second, up to half a minute, until the red status line shows.
+                          << "i=0\n"
+                          << "while [ $i -lt 30 ]; do sleep 1; i=$((i+1))\n"
+                          << "  xwd -root -silent | convert xwd:- png:screen.png\n"
+                          << "  red=$(convert screen.png -crop 1020x14+2+2 +repage -fill black "
+                             "+opaque red -fill white -opaque red -format '%[fx:round(mean*w*h)]' "
+                             "info:)\n"
+                          << "  [ \"$red\" -gt 100 ] && break\n"
+                          << "done\n"
                           << "kill -TERM $pid\n"
                           << "wait $pid\n"
                           << "echo $? > exit.txt\n";
