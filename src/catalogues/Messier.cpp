@@ -7,10 +7,12 @@
 #include <utility>
 #include <vector>
 
+#include "catalogues/CrossMark.h"
 #include "catalogues/StringParser.h"
 #include "coords/StellarCoord.h"
 #include "host/HostFile.h"
 #include "host/HostProf.h"
+#include "host/LittleEndian.h"
 #include "platform/TDC.h"
 #include "platform/TFont.h"
 #include "skyview/DisplayParameters.h"
@@ -31,28 +33,6 @@ constexpr const char* kTypeCodes[] = {"OCl", "GCl", "C/N", "PlN", "DfN", "Gal", 
 // Height of the label font in inches.
 constexpr double kLabelHeightInches = 0.14;
 
-constexpr const char* kMark = "X";
-
-void PutDouble(unsigned char* p, double value)
-{
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    for (int i = 0; i < 8; ++i) {
-        p[i] = static_cast<unsigned char>(bits >> (8 * i));
-    }
-}
-
-double GetDouble(const unsigned char* p)
-{
-    std::uint64_t bits = 0;
-    for (int i = 0; i < 8; ++i) {
-        bits |= std::uint64_t(p[i]) << (8 * i);
-    }
-    double value = 0.0;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
-}
-
 // The code and its words, for the seven codes, read from the profile at the first use.
 const std::vector<std::pair<std::string, std::string>>& TypeTexts()
 {
@@ -65,21 +45,6 @@ const std::vector<std::pair<std::string, std::string>>& TypeTexts()
         return read;
     }();
     return texts;
-}
-
-// The one font of the mark, and the offset from the top left of the letter to its middle,
-// measured at the first draw and kept for all later ones.
-struct MessierMark
-{
-    TFont Font{"Arial", 10, 0, 0, 0, FW_NORMAL, 0, false, false, false, DEFAULT_CHARSET};
-    bool bMeasured = false;
-    TPoint Offset;
-};
-
-MessierMark& SharedMark()
-{
-    static MessierMark mark;
-    return mark;
 }
 
 // The label font, remade when the resolution of the surface changes. Labels that hold an
@@ -122,17 +87,18 @@ bool Messier::BlockInfo::Load(HostFile& file)
 void Messier::BlockInfo::Load(const unsigned char* buffer)
 {
     Number = buffer[kNumberOffset];
-    Magnitude = GetDouble(buffer + kMagnitudeOffset);
-    Position = PolarCoord(GetDouble(buffer + kRAOffset), GetDouble(buffer + kDecOffset));
+    Magnitude = LittleEndian::GetDouble(buffer + kMagnitudeOffset);
+    Position = PolarCoord(LittleEndian::GetDouble(buffer + kRAOffset),
+                          LittleEndian::GetDouble(buffer + kDecOffset));
 }
 
 bool Messier::BlockInfo::Dump(HostFile& file) const
 {
     unsigned char record[kRecordSize] = {};
     record[kNumberOffset] = Number;
-    PutDouble(record + kMagnitudeOffset, Magnitude);
-    PutDouble(record + kRAOffset, Position.GetRA().GetDegrees());
-    PutDouble(record + kDecOffset, Position.GetDec().GetDegrees());
+    LittleEndian::PutDouble(record + kMagnitudeOffset, Magnitude);
+    LittleEndian::PutDouble(record + kRAOffset, Position.GetRA().GetDegrees());
+    LittleEndian::PutDouble(record + kDecOffset, Position.GetDec().GetDegrees());
     return file.Write(record, kRecordSize) == kRecordSize;
 }
 
@@ -257,22 +223,7 @@ std::uint32_t Messier::GetUid() const
 
 void Messier::Draw(TDC& dc, DisplayParameters& /*parameters*/)
 {
-    MessierMark& mark = SharedMark();
-    if (!mark.bMeasured) {
-        dc.SelectObject(mark.Font);
-        TEXTMETRIC metrics{};
-        dc.GetTextMetrics(metrics);
-        const TSize extent = dc.GetTextExtent(kMark);
-        mark.Offset = TPoint((extent.cx - int(metrics.tmInternalLeading)) / 2,
-                             (extent.cy - int(metrics.tmDescent)) / 2);
-        mark.bMeasured = true;
-        dc.RestoreFont();
-    }
-    dc.SetTextColor(TColor::LtYellow);
-    dc.SetBkMode(TRANSPARENT);
-    dc.SelectObject(mark.Font);
-    dc.TextOut(DisplayPoint - mark.Offset, kMark);
-    dc.RestoreFont();
+    CrossMark::Draw(dc, DisplayPoint);
 }
 
 std::string Messier::GetListName() const

@@ -10,34 +10,6 @@
 #include "platform/DebugStream.h"
 #include "projection/Transformation.h"
 
-namespace {
-
-bool LoadCount(HostFile& file, std::int32_t& count)
-{
-    unsigned char bytes[4];
-    if (file.Read(bytes, sizeof bytes) != sizeof bytes) {
-        return false;
-    }
-    std::uint32_t value = 0;
-    for (int i = 3; i >= 0; --i) {
-        value = (value << 8) | bytes[i];
-    }
-    count = static_cast<std::int32_t>(value);
-    return true;
-}
-
-bool DumpCount(HostFile& file, std::int32_t count)
-{
-    const auto value = static_cast<std::uint32_t>(count);
-    unsigned char bytes[4];
-    for (int i = 0; i < 4; ++i) {
-        bytes[i] = static_cast<unsigned char>(value >> (8 * i));
-    }
-    return file.Write(bytes, sizeof bytes) == sizeof bytes;
-}
-
-} // namespace
-
 MessierCatalogue::MessierCatalogue()
     : FileName(HostProfile().Get("Orbiscope", "MessierFile", "ed:\\messier.bin"))
 {}
@@ -83,7 +55,7 @@ bool MessierCatalogue::Load(const std::string& name)
     }
     Clear();
     std::int32_t count = 0;
-    bool complete = LoadCount(file, count) && count >= 0;
+    bool complete = file.ReadInt32(count) && count >= 0;
     // The count is not trusted for memory: records are read while the file holds them.
     for (std::int32_t i = 0; complete && i < count; ++i) {
         auto object = std::make_unique<Messier>();
@@ -109,7 +81,7 @@ bool MessierCatalogue::Dump(const std::string& name) const
         dbstream << "Could not create Messier file: " << target << dbendl;
         return false;
     }
-    bool written = DumpCount(file, std::int32_t(Objects.size()));
+    bool written = file.WriteInt32(std::int32_t(Objects.size()));
     for (const Messier* object : Objects) {
         written = written && object->Dump(file);
     }

@@ -121,15 +121,15 @@ bool DegreeRange::Dump(HostFile& file) const
         center = 0.0;
         halfWidth = 0.0;
     }
-    bool centerWritten = DumpDouble(file, center);
-    bool halfWidthWritten = DumpDouble(file, halfWidth);
+    bool centerWritten = file.WriteDouble(center);
+    bool halfWidthWritten = file.WriteDouble(halfWidth);
     return centerWritten && halfWidthWritten;
 }
 
 bool DegreeRange::Load(HostFile& file)
 {
     double center = 0.0, halfWidth = 0.0;
-    if (!LoadDouble(file, center) || !LoadDouble(file, halfWidth)) {
+    if (!file.ReadDouble(center) || !file.ReadDouble(halfWidth)) {
         return false;
     }
     Center = center;
