@@ -2,8 +2,8 @@
 // Owns the catalogues and answers each draw's question: which objects can this view show?
 //
 // The answer fills an AstroList in drawing order: objects added from outside first, then
-// stars, planets and comets; constellations (after the stars) and Messier objects (after the
-// planets) take their places in that order when those catalogues join the collector. Each request
+// stars, constellations, planets and comets; Messier objects (after the planets) take their
+// place in that order when that catalogue joins the collector. Each request
 // is compared with the last one answered, so an unchanged view costs nothing and a change of time
 // alone keeps everything that does not move.
 //
@@ -21,6 +21,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogues/ConstellationCatalogue.h"
 #include "catalogues/PointerVector.h"
 #include "catalogues/Request.h"
 #include "catalogues/StarCatalogue.h"
@@ -88,6 +89,8 @@ public:
     // The body the views are seen from: the Earth of the planet catalogue.
     SolarSystemObject* GetOrigin() const { return pOrigin; }
     PlanetCatalogue& GetPlanetCatalogue() { return Planets; }
+    ConstellationCatalogue& GetConstellationCatalogue() { return Constellations; }
+    const ConstellationCatalogue& GetConstellationCatalogue() const { return Constellations; }
     CometCatalogue& GetCometCatalogue() { return Comets; }
     // The catalogues, star files first in the order of their names, then the user's.
     const PointerVector<StarCatalogue>& GetStarCatalogues() const { return StarCatalogues; }
@@ -107,8 +110,9 @@ private:
     std::size_t nFileCatalogues = 0;
     bool bFileCataloguesMade = false;
 
-    // The Messier and constellation catalogues take their places beside these.
+    // The Messier catalogue takes its place beside these.
     PlanetCatalogue Planets;
+    ConstellationCatalogue Constellations;
     CometCatalogue Comets;
     SolarSystemObject* pOrigin = nullptr;
 
