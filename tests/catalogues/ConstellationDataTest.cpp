@@ -41,6 +41,20 @@ bool HasPointNear(const std::vector<PolarCoord>& points, const PolarCoord& posit
     return false;
 }
 
+// How many times a closed ring turns round the poles: the sum of its steps in RA, each taken
+// the short way, in whole turns.
+double TurnsRoundThePole(const std::vector<PolarCoord>& ring)
+{
+    double sum = 0.0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        double step =
+            ring[(i + 1) % ring.size()].GetRA().GetDegrees() - ring[i].GetRA().GetDegrees();
+        step = std::remainder(step, 360.0);
+        sum += step;
+    }
+    return sum / 360.0;
+}
+
 } // namespace
 
 class ConstellationDataTest : public ::testing::Test
@@ -154,15 +168,22 @@ TEST_F(ConstellationDataTest, OrionHasItsStarsInItsFigureAndBoundary)
     EXPECT_FALSE(orion.GetBoundaryRange().Contains(PolarCoord(88.7929, 30.0)));
 }
 
-TEST_F(ConstellationDataTest, UrsaMinorsBoundaryContainsThePoleAndPolarisItsFigure)
+TEST_F(ConstellationDataTest, UrsaMinorsBoundaryGoesRoundThePoleAndOctansRoundTheSouthPole)
 {
-    const Constellation& ursaMinor = Get("UMi");
-    EXPECT_TRUE(ursaMinor.GetBoundaryRange().Contains(PolarCoord(0.0, 90.0)));
-    EXPECT_TRUE(ursaMinor.GetBoundaryRange().Contains(PolarCoord(200.0, 88.0)));
-    EXPECT_TRUE(HasPointNear(ursaMinor.GetFigurePoints(), PolarCoord(37.9546, 89.2641)));
-    // No constellation of the south reaches the north pole.
-    EXPECT_FALSE(Get("Oct").GetBoundaryRange().Contains(PolarCoord(0.0, 90.0)));
-    EXPECT_TRUE(Get("Oct").GetBoundaryRange().Contains(PolarCoord(0.0, -90.0)));
+    // A ring that holds a pole turns once round it; any other ring turns back.
+    EXPECT_NEAR(std::fabs(TurnsRoundThePole(Get("UMi").GetBoundaryPoints())), 1.0, 1e-9);
+    EXPECT_NEAR(std::fabs(TurnsRoundThePole(Get("Oct").GetBoundaryPoints())), 1.0, 1e-9);
+    EXPECT_NEAR(TurnsRoundThePole(Get("Ori").GetBoundaryPoints()), 0.0, 1e-9);
+    EXPECT_NEAR(TurnsRoundThePole(Get("Cep").GetBoundaryPoints()), 0.0, 1e-9);
+    // No ring runs to a pole itself: that would be a line where the sky has no border.
+    std::vector<Constellation*> all;
+    pCatalogue->GetConstellations(all);
+    for (const Constellation* c : all) {
+        for (const PolarCoord& p : c->GetBoundaryPoints()) {
+            ASSERT_LT(std::fabs(p.GetDec().GetDegrees()), 90.0) << c->GetName();
+        }
+    }
+    EXPECT_TRUE(HasPointNear(Get("UMi").GetFigurePoints(), PolarCoord(37.9546, 89.2641)));
 }
 
 TEST_F(ConstellationDataTest, SerpensIsOneBoundaryOverHeadAndTail)

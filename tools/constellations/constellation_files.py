@@ -15,7 +15,9 @@ Writes three text files, every constellation in the order of the name list (cons
   constbd.txt   the IAU boundaries (J2000, KStars' cbounds.dat), one point a line: RA in
                 decimal hours from 0 to 24, Dec in decimal degrees, abbreviation. Each
                 constellation is one closed polygon in the file's order, its first point not
-                repeated at the end.
+                repeated at the end. The rings of Ursa Minor and Octans, which hold a pole,
+                go round it: the source's detour to the pole and back along 0 h is left out,
+                since drawn it would be a line where the sky has no border.
 
 Serpens is two areas on the sky, on either side of Ophiuchus, but one polygon in the file: the
 walk round Serpens Cauda crosses to Serpens Caput along the border of Ophiuchus, goes round
@@ -293,6 +295,8 @@ def main():
                                       section_rings["Ophiuchus"])
             else:
                 ring = pieces[0][1]
+            # A cap's ring runs up to its pole and back along 0 h: a cut, not a border.
+            ring = [p for p in ring if abs(p[1]) != 90.0]
             for ra, dec in ring:
                 out.write("%.7f %.7f %s\n" % (ra, dec, abbr))
             points += len(ring)
@@ -329,7 +333,7 @@ def main():
     if wrong:
         fail("%d grid points are not in exactly one constellation" % wrong)
 
-    section_points = sum(len(ring) for _, ring in sections)
+    section_points = sum(1 for _, ring in sections for p in ring if abs(p[1]) != 90.0)
     print("constellation_files: %d constellations, %d figure lines (%d stars without an SAO "
           "number), %d boundary points: %d of %d sections and %d joining the parts of Serpens"
           % (len(names), lines, missing_sao, points, section_points, len(sections),
