@@ -33,16 +33,18 @@ struct FigureLine
     bool bComplete = false;
 };
 
-bool IsFinite(const PolarCoord& coord)
+// Whether the numbers name a direction: RA within a turn either way, Dec from pole to pole.
+// NaN fails both tests.
+bool OnTheSphere(double ra, double dec)
 {
-    return std::isfinite(coord.GetRA().GetDegrees()) && std::isfinite(coord.GetDec().GetDegrees());
+    return std::fabs(ra) <= 360.0 && std::fabs(dec) <= 90.0;
 }
 
-// Both numbers of a point, finite; `coord` is left alone otherwise.
+// Both numbers of a point, on the sphere; `coord` is left alone otherwise.
 bool ReadPoint(StringParser& parser, PolarCoord& coord)
 {
     PolarCoord read;
-    if (!read.Set(parser) || !IsFinite(read)) {
+    if (!read.Set(parser) || !OnTheSphere(read.GetRA().GetDegrees(), read.GetDec().GetDegrees())) {
         return false;
     }
     coord = read;
@@ -66,7 +68,7 @@ struct BoundaryLine
 {
     LorvString Abbreviation;
     PolarCoord Point;
-    bool bFinite = false;
+    bool bOnTheSphere = false;
 };
 
 BoundaryLine ParseBoundaryLine(const char* line)
@@ -85,8 +87,8 @@ BoundaryLine ParseBoundaryLine(const char* line)
     // Above 0 is north; every other value, 0 among them, is south by its size.
     const double declination = degrees > 0.0 ? std::fabs(degrees) : -std::fabs(degrees);
     const double rightAscension = hours * kDegreesPerHour;
-    parsed.bFinite = std::isfinite(rightAscension) && std::isfinite(declination);
-    if (parsed.bFinite) {
+    parsed.bOnTheSphere = OnTheSphere(rightAscension, declination);
+    if (parsed.bOnTheSphere) {
         parsed.Point = PolarCoord(rightAscension, declination);
     }
     return parsed;
@@ -132,7 +134,7 @@ bool Constellation::AddBoundaryPoints(TextFile& text)
             break;
         }
         any = true;
-        if (!parsed.bFinite) {
+        if (!parsed.bOnTheSphere) {
             continue;
         }
         BoundaryPoints.push_back(parsed.Point);

@@ -41,16 +41,17 @@ public:
 
     // Readers of the catalogue's files. Each takes the lines of this constellation from the
     // current line on and stops at the first line of another one (or an empty line, or the
-    // end), which stays current. A line whose numbers are missing or not finite is passed
-    // over. True when at least one line was this constellation's.
+    // end), which stays current. A line whose numbers are missing or name no direction (not
+    // numbers, RA beyond a turn either way, Dec beyond a pole) is passed over. True when at
+    // least one line was this constellation's.
     // Figure lines: abbreviation, RA and Dec of both ends in degrees (two SAO numbers may
     // follow, which are not read).
     bool AddFigurePoints(TextFile& text);
     // Boundary lines: RA in hours, Dec in degrees, abbreviation; separated by blanks or commas.
     bool AddBoundaryPoints(TextFile& text);
     // Reads the next line: abbreviation, centre RA and Dec, label RA and Dec in degrees. Each
-    // pair is taken only when both its numbers are there. False, reading no pair, when the
-    // line is missing or belongs to another constellation.
+    // pair is taken only when both its numbers are there and name a direction. False, reading
+    // no pair, when the line is missing or belongs to another constellation.
     bool ReadCenterPoint(TextFile& text);
 
     // The centre from the centre file, or else the middle of the boundary's ranges (the

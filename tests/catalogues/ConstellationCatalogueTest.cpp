@@ -187,12 +187,14 @@ TEST_F(ConstellationFilesTest,
     EXPECT_FALSE(second->FindConstellationWithAbbreviation("UMi")->HasFigures());
 }
 
-TEST_F(ConstellationFilesTest, FigureLinesWithMissingOrUnreadableNumbersArePassedOver)
+TEST_F(ConstellationFilesTest, FigureLinesWithMissingNumbersOrNoDirectionArePassedOver)
 {
     auto catalogue = Catalogue();
     catalogue->LoadFigureInfo(*Open("figures.txt", "Ori,88.79,7.41,81.28\n"
                                                    "Ori,nan,7.41,81.28,6.35\n"
                                                    "Ori,1e999,7.41,81.28,6.35\n"
+                                                   "Ori,400,7.41,81.28,6.35\n"
+                                                   "Ori,88.79,7.41,81.28,-90.5\n"
                                                    "Ori,81.28,6.35,78.63,-8.20,112740,131907\n"
                                                    "UMi,37.95,89.26,263.05,86.59\n"));
     const Constellation& orion = *catalogue->FindConstellationWithAbbreviation("Ori");
@@ -334,10 +336,13 @@ TEST_F(ConstellationFilesTest, BoundaryOfSerpensInTwoGroupsJoinsBothParts)
     EXPECT_EQ(catalogue->FindConstellationWithAbbreviation("Oph")->GetBoundaryPoints().size(), 3u);
 }
 
-TEST_F(ConstellationFilesTest, BoundaryLineWithoutThreeFieldsStopsTheReading)
+TEST_F(ConstellationFilesTest,
+       BoundaryPointsOffTheSphereArePassedOverAndALineWithoutThreeFieldsStops)
 {
     auto catalogue = Catalogue();
     catalogue->LoadBoundaryInfo(*Open("bounds.txt", "5.0 -10.0 Ori\n"
+                                                    "5.5 -91 Ori\n"
+                                                    "25 0 Ori\n"
                                                     "6.0 -10.0 Ori\n"
                                                     "6.0 20.0\n"
                                                     "5.0 20.0 Ori\n"
