@@ -1,5 +1,5 @@
 #pragma once
-// The 88 constellations: names, figures, boundaries, centres and label points, read lazily
+// The constellations: names, figures, boundaries, centres and label points, read lazily
 // from four text files that the profile names in section "Orbiscope":
 //
 //   "ConstellationNameFile"      "ed:\constnam.txt"       full name, abbreviation
