@@ -65,8 +65,9 @@ bool AstroItemCollector::SatisfyRequest(Request& request, AstroList& list)
             pScrollCatalogue = nullptr;
         }
     }
-    // Constellations are asked here, unless the time alone changed, once the collector holds
-    // them.
+    if (!timeOnly && request.GetCatalogues().Has(AstroCatalogue::CONSTELLATIONS)) {
+        Constellations.SatisfyRequest(request, list);
+    }
     if (request.GetCatalogues().Has(AstroCatalogue::PLANETS)) {
         Planets.SatisfyRequest(request, list);
     }

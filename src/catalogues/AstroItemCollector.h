@@ -2,10 +2,9 @@
 // Owns the catalogues and answers each draw's question: which objects can this view show?
 //
 // The answer fills an AstroList in drawing order: objects added from outside first, then
-// stars, planets, Messier objects and comets; constellations (after the stars) take their place
-// in that order when that catalogue joins the collector. Each request is compared with the last
-// one answered, so an unchanged view costs nothing and a change of time alone keeps everything
-// that does not move.
+// stars, constellations, planets, Messier objects and comets. Each request is compared with the
+// last one answered, so an unchanged view costs nothing and a change of time alone keeps
+// everything that does not move.
 //
 // Of the star catalogues the collector uses the shallowest that reaches the limiting
 // magnitude: with the shipped files the small bright-star file serves every view down to its
@@ -23,6 +22,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogues/ConstellationCatalogue.h"
 #include "catalogues/MessierCatalogue.h"
 #include "catalogues/PointerVector.h"
 #include "catalogues/Request.h"
@@ -91,6 +91,8 @@ public:
     // The body the views are seen from: the Earth of the planet catalogue.
     SolarSystemObject* GetOrigin() const { return pOrigin; }
     PlanetCatalogue& GetPlanetCatalogue() { return Planets; }
+    ConstellationCatalogue& GetConstellationCatalogue() { return Constellations; }
+    const ConstellationCatalogue& GetConstellationCatalogue() const { return Constellations; }
     MessierCatalogue& GetMessierCatalogue() { return MessierObjects; }
     CometCatalogue& GetCometCatalogue() { return Comets; }
     // The catalogues, star files first in the order of their names, then the user's.
@@ -111,8 +113,8 @@ private:
     std::size_t nFileCatalogues = 0;
     bool bFileCataloguesMade = false;
 
-    // The constellation catalogue takes its place beside these.
     PlanetCatalogue Planets;
+    ConstellationCatalogue Constellations;
     MessierCatalogue MessierObjects;
     CometCatalogue Comets;
     SolarSystemObject* pOrigin = nullptr;

@@ -107,7 +107,11 @@ void DegreeRange::Enclose(DegreeAngle& angle)
     }
 
     Center = DegreeAngle((end + target) / 2.0);
-    HalfWidth = GetDifference(Center, angle);
+    // The halving may round the centre towards either end: the wider of the two gaps holds
+    // both ends, so every angle enclosed before stays contained.
+    const DegreeAngle toAngle = GetDifference(Center, angle);
+    const DegreeAngle toEnd = GetDifference(Center, DegreeAngle(end));
+    HalfWidth = toEnd > toAngle ? toEnd : toAngle;
 }
 
 bool DegreeRange::Dump(HostFile& file) const

@@ -150,7 +150,12 @@ public:
     void ShowMessierObjects(bool show);
     void ShowComets(bool show);
     void ShowPlanets(bool show);
-    // Takes the view of another map: display, a copy of its orientation, time and grid.
+    // What is shown of the constellations. A change loads what the new settings need (with
+    // the wait cursor) and redraws everything; equal settings change nothing.
+    void SetConstellationSettings(const ConstellationSettings& settings);
+    ConstellationSettings GetConstellationSettings() const;
+    // Takes the view of another map: display, a copy of its orientation, time, grid and
+    // constellation settings.
     void Copy(MapWindow& other);
 
     // A star catalogue of the user's, from text or from a star file, which every view uses
