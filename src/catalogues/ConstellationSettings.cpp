@@ -21,20 +21,8 @@ int ConstellationSettings::nDCScaleForCurrentFont = 0;
 
 FontRef* ConstellationSettings::GetLabelFontRef(const TDC& dc)
 {
-    const int dotsPerInch = dc.GetDeviceCaps(LOGPIXELSY);
-    if (psLabelFontRef != nullptr && dotsPerInch == nDCScaleForCurrentFont) {
-        return psLabelFontRef;
-    }
-    // The old font goes only with the last label that holds it.
-    if (psLabelFontRef != nullptr) {
-        psLabelFontRef->Release();
-    }
-    const int height = int(std::trunc(dotsPerInch * kLabelHeightInches));
-    psLabelFontRef =
-        new FontRef(std::make_unique<TFont>("Arial Italic", height, 0, 0, 0, FW_NORMAL, 0, false,
-                                            false, false, DEFAULT_CHARSET, 0, 0, 0));
-    nDCScaleForCurrentFont = dotsPerInch;
-    return psLabelFontRef;
+    return FontRef::ForResolution(psLabelFontRef, nDCScaleForCurrentFont, dc, "Arial Italic",
+                                  kLabelHeightInches);
 }
 
 StateContainer& operator<<(StateContainer& sc, const ConstellationSettings& settings)

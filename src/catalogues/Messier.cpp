@@ -53,17 +53,7 @@ FontRef* LabelFont(const TDC& dc)
 {
     static FontRef* font = nullptr;
     static int resolution = 0;
-    const int dotsPerInch = dc.GetDeviceCaps(LOGPIXELSY);
-    if (font == nullptr || dotsPerInch != resolution) {
-        if (font != nullptr) {
-            font->Release();
-        }
-        const int height = int(std::trunc(dotsPerInch * kLabelHeightInches));
-        font = new FontRef(std::make_unique<TFont>("Arial", height, 0, 0, 0, FW_NORMAL, 0, false,
-                                                   false, false, DEFAULT_CHARSET));
-        resolution = dotsPerInch;
-    }
-    return font;
+    return FontRef::ForResolution(font, resolution, dc, "Arial", kLabelHeightInches);
 }
 
 } // namespace

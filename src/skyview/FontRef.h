@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 
+class TDC;
 class TFont;
 
 class FontRef
@@ -31,6 +32,13 @@ public:
     bool OwnsFont() const { return bOwnsFont; }
     // The number of holders beyond the first.
     std::int32_t GetReferenceCount() const { return nReferenceCount; }
+
+    // The label font that one kind of object shares: `shared` while the resolution of `dc`
+    // is still `resolution`, otherwise a new font of `face`, `heightInches` high at that
+    // resolution, which replaces it. The old font is given back; labels that hold it keep it
+    // alive until they go.
+    static FontRef* ForResolution(FontRef*& shared, int& resolution, const TDC& dc,
+                                  const char* face, double heightInches);
 
 private:
     // Only Release deletes.

@@ -99,19 +99,8 @@ int StarDisplayParameters::nDCScaleForCurrentFont = 0;
 
 FontRef* StarDisplayParameters::GetLabelFontRef(const TDC& dc)
 {
-    const int dotsPerInch = dc.GetDeviceCaps(LOGPIXELSY);
-    if (psLabelFontRef != nullptr && dotsPerInch == nDCScaleForCurrentFont) {
-        return psLabelFontRef;
-    }
-    // The old font goes only with the last label that holds it.
-    if (psLabelFontRef != nullptr) {
-        psLabelFontRef->Release();
-    }
-    const int height = int(std::trunc(dotsPerInch * kLabelHeightInches));
-    psLabelFontRef = new FontRef(std::make_unique<TFont>(
-        "Arial", height, 0, 0, 0, FW_NORMAL, 0, false, false, false, DEFAULT_CHARSET, 0, 0, 0));
-    nDCScaleForCurrentFont = dotsPerInch;
-    return psLabelFontRef;
+    return FontRef::ForResolution(psLabelFontRef, nDCScaleForCurrentFont, dc, "Arial",
+                                  kLabelHeightInches);
 }
 
 void StarDisplayParameters::GetLabelTypeNames(std::vector<std::string>& names)

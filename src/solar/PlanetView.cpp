@@ -63,18 +63,8 @@ Label* PlanetView::GetLabel(DisplayParameters& parameters)
     if (parameters.pDC == nullptr) {
         return nullptr;
     }
-    const int resolution = parameters.pDC->GetDeviceCaps(LOGPIXELSY);
-    if (psLabelFontRef == nullptr || resolution != nLabelFontResolution) {
-        // Labels that hold the old font keep it alive until they go.
-        if (psLabelFontRef != nullptr) {
-            psLabelFontRef->Release();
-        }
-        const int height = int(std::trunc(resolution * kLabelHeightInches));
-        psLabelFontRef =
-            new FontRef(std::make_unique<TFont>("Times New Roman", height, 0, 0, 0, FW_NORMAL, 0,
-                                                false, false, false, DEFAULT_CHARSET));
-        nLabelFontResolution = resolution;
-    }
+    FontRef::ForResolution(psLabelFontRef, nLabelFontResolution, *parameters.pDC, "Times New Roman",
+                           kLabelHeightInches);
     if (pLabel && pLabel->GetFontRef() != psLabelFontRef) {
         pLabel.reset();
     }
