@@ -11,7 +11,9 @@
 #include "host/HostStringTable.h"
 #include "platform/TBrush.h"
 #include "platform/TDC.h"
+#include "platform/TGadgetWindowFont.h"
 #include "platform/TPalette.h"
+#include "skyview/AstroStatusWindow.h"
 #include "skyview/MapWindow.h"
 #include "state/CmdLineStateContainer.h"
 #include "state/RegistryStateContainer.h"
@@ -22,11 +24,18 @@ namespace {
 constexpr short kStringTable = 5;
 constexpr short kTitleString = 1000;
 
-// The frame's metric of the bezel round the map, and what it is without a frame.
-int BezelWidth()
+// The status panel's font: 8 points, neither bold nor fixed.
+constexpr int kStatusFontPoints = 8;
+// A side panel takes this share of the window's width, in per cent.
+constexpr int kSidePanelPercent = 20;
+// The gap at the left of a lone side panel is this fraction of the window's width.
+constexpr int kSideMarginDivisor = 60;
+
+// A metric of the frame (the bezel round the map, the gap beside it), 0 without a frame.
+int FrameMetric(int metric)
 {
     HostFrameAPI* frame = getHostFrameAPI();
-    return frame ? frame->GetMetric(kHostMetricBezelWidth) : 0;
+    return frame ? frame->GetMetric(metric) : 0;
 }
 
 std::string MakeStateRoot()
@@ -101,14 +110,31 @@ void AstroNoxWindow::Paint(TDC& dc, bool, TRect& rect)
     DrawHostInnieBezel(dc, pMap);
 }
 
-void AstroNoxWindow::LayoutWindows(const TSize&)
+void AstroNoxWindow::LayoutWindows(const TSize& size)
 {
-    // Without the side panels the map fills the window, set in by the bezel on every side.
-    const int bezel = BezelWidth();
+    // The map is set in by the bezel on every side; a side panel stands at the left, a fifth
+    // of the width, and the map begins a gap and the bezel right of it.
+    const int gap = FrameMetric(kHostMetricBezelGap);
+    const int bezel = FrameMetric(kHostMetricBezelWidth);
+    const int margin = size.cx / kSideMarginDivisor;
+    if (pStatus) {
+        TLayoutMetrics side;
+        GetChildLayoutMetrics(*pStatus, side);
+        side.SetMeasurementUnits(lmPixels);
+        side.X.Set(lmLeft, lmRightOf, lmParent, lmLeft, margin);
+        side.Y.Set(lmTop, lmSameAs, lmParent, lmTop, 0);
+        side.Width.Set(lmWidth, lmPercentOf, lmParent, lmRight, kSidePanelPercent);
+        side.Height.Set(lmBottom, lmSameAs, lmParent, lmBottom, 0);
+        SetChildLayoutMetrics(*pStatus, side);
+    }
     TLayoutMetrics map;
     GetChildLayoutMetrics(*pMap, map);
     map.SetMeasurementUnits(lmPixels);
-    map.X.Set(lmLeft, lmRightOf, lmParent, lmLeft, bezel);
+    if (pStatus) {
+        map.X.Set(lmLeft, lmRightOf, pStatus, lmRight, gap + bezel);
+    } else {
+        map.X.Set(lmLeft, lmRightOf, lmParent, lmLeft, bezel);
+    }
     map.Y.Set(lmTop, lmBelow, lmParent, lmTop, bezel);
     map.Width.Set(lmRight, lmLeftOf, lmParent, lmRight, bezel);
     map.Height.Set(lmBottom, lmAbove, lmParent, lmBottom, bezel);
@@ -179,9 +205,9 @@ LRESULT AstroNoxWindow::WmuObjectSelected(WPARAM, LPARAM reference)
 
 StateContainer& AstroNoxWindow::operator<<(StateContainer& sc) const
 {
-    // Neither side panel is part of this window yet.
+    // The finder is not part of this window yet.
     return sc << NewLevel << AstroKey("MapWindow") << *pMap << AstroKey("DisplayStatusWindow")
-              << false << AstroKey("DisplayFinderWindow") << false << EndLevel;
+              << (pStatus != nullptr) << AstroKey("DisplayFinderWindow") << false << EndLevel;
 }
 
 StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
@@ -191,6 +217,7 @@ StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
     sc >> GoToLevel >> AstroKey("MapWindow") >> *pMap >> AstroKey("DisplayStatusWindow") >>
         status >> AstroKey("DisplayFinderWindow") >> finder >> EndLevel;
     SetMessierObjectsDisplay(pMap->IsShowingMessier());
+    SetStatusWindowState(status);
     if (HWindow) {
         LayoutWindows(GetClientRect().Size());
         Layout();
@@ -232,6 +259,41 @@ void AstroNoxWindow::MakeDefaultState()
     // A first start has no place yet. Without a location name nothing is written, so the
     // next start begins anew as well.
     SaveAsDefaultState();
+}
+
+// The side panels.
+
+void AstroNoxWindow::SetStatusWindowState(bool on)
+{
+    if (on == (pStatus != nullptr)) {
+        return;
+    }
+    if (on) {
+        CreateStatusWindow();
+    } else {
+        // The map lets go of the panel before it goes; its blocks leave the panel with it.
+        pMap->DetachStatusWindow();
+        AstroStatusWindow* going = pStatus;
+        pStatus = nullptr;
+        going->Destroy();
+        delete going;
+    }
+    if (HWindow) {
+        LayoutWindows(GetClientRect().Size());
+        Layout();
+        Invalidate();
+    }
+}
+
+void AstroNoxWindow::CreateStatusWindow()
+{
+    const TGadgetWindowFont font(kStatusFontPoints, false, false);
+    // A child: the window tree owns it.
+    pStatus = new AstroStatusWindow(this, &font);
+    pMap->AttachStatusWindow(*pStatus);
+    if (HWindow) {
+        pStatus->Create();
+    }
 }
 
 void AstroNoxWindow::SetMessierObjectsDisplay(bool show)

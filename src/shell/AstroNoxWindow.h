@@ -13,10 +13,14 @@
 // The default state lies in the settings store below StateRoot, in the subkey "Default":
 // "SOFTWARE\<ProductGroup>\<Name>\<Version>\orbiscope" from section "Version" of the profile.
 // It is written only after changes that say so, and only once the map has a location name.
+//
+// Beside the map may stand the status panel (time, orientation, Moon), a fifth of the window
+// wide at the left; a bookmark says whether it shows.
 #include <string>
 
 #include "platform/TLayoutWindow.h"
 
+class AstroStatusWindow;
 class HostBookmark;
 class MapWindow;
 class StateContainer;
@@ -52,9 +56,17 @@ public:
     // Shows or hides the Messier objects and keeps the choice as the default.
     void SetMessierObjectsDisplay(bool show);
 
-    // Sets the layout of the map for a client area of that size: inside the frame's bezel.
-    // TLayoutWindow::Layout then moves it there.
+    // Sets the layout of the map and the panel for a client area of that size: the map
+    // inside the frame's bezel, right of the panel when there is one. TLayoutWindow::Layout
+    // then moves them there.
     void LayoutWindows(const TSize& size);
+
+    // Makes the status panel or takes it away, so that it exists exactly when `on`.
+    void SetStatusWindowState(bool on);
+    // A new status panel in the gadget windows' 8-point font, showing the map's blocks.
+    void CreateStatusWindow();
+    // The panel; a child of this window, null while there is none.
+    AstroStatusWindow* GetStatusWindow() const { return pStatus; }
 
     // Handlers.
     void EvSize(UINT sizeType, TSize& size);
@@ -80,6 +92,7 @@ public:
 
 private:
     MapWindow* pMap;
+    AstroStatusWindow* pStatus = nullptr;
     std::string StateRoot;
     std::string DefaultKey = "Default";
 };

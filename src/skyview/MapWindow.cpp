@@ -22,8 +22,11 @@
 #include "projection/FixedOrientationInfo.h"
 #include "projection/PerspectiveModifier.h"
 #include "projection/RotatingOrientationInfo.h"
+#include "skyview/AstroStatusWindow.h"
 #include "skyview/DrawTimeLimit.h"
 #include "skyview/StarDisplayParameters.h"
+#include "solar/Moon.h"
+#include "solar/PlanetCatalogue.h"
 #include "solar/SolarSystemObject.h"
 #include "state/StateContainer.h"
 
@@ -210,7 +213,9 @@ void MapWindow::DrawAll()
         if (pOrientation->GetType() == OrientationInfo::ROTATING) {
             bTransformationDirty = true;
             bGridDirty = true;
+            OrientationItem.Set(*pOrientation);
         }
+        TimeItem.Set(Time - Zone);
         bTimeDirty = false;
     }
 
@@ -221,6 +226,7 @@ void MapWindow::DrawAll()
         pPendingCenter.reset();
         bTransformationDirty = true;
         bGridDirty = true;
+        OrientationItem.Set(*pOrientation);
     }
 
     // A new projection, and the parent hears of it.
@@ -252,6 +258,10 @@ void MapWindow::DrawAll()
 
     if (limit.IsExpired()) {
         return;
+    }
+
+    if (timeChanged) {
+        TellMoonItem();
     }
 
     // Stars go straight into the bitmap's bits: nothing may still be queued for them.
@@ -510,6 +520,60 @@ void MapWindow::DisplayStatus(TDC& dc, const TRect&)
     }
     dc.TextOut(0, 0, StatusText);
     dc.RestoreFont();
+}
+
+// The status panel.
+
+void MapWindow::AttachStatusWindow(AstroStatusWindow& window)
+{
+    pStatusWindow = &window;
+    window.Insert(PointerItem);
+    window.Insert(TimeItem);
+    window.Insert(OrientationItem);
+    window.Insert(MoonItem);
+    // A panel that comes after the last change would otherwise stay empty until the next.
+    RefreshAllStatus();
+}
+
+void MapWindow::RefreshAllStatus()
+{
+    if (!pStatusWindow) {
+        return;
+    }
+    // A view on the ground needs the Earth at the map's time for its centre and zenith.
+    if (SolarSystemObject* origin = Collector.GetOrigin()) {
+        origin->SetTime(Time);
+    }
+    TimeItem.Set(Time - Zone);
+    OrientationItem.Set(*pOrientation);
+    TellMoonItem();
+}
+
+void MapWindow::TellMoonItem()
+{
+    PlanetCatalogue& planets = Collector.GetPlanetCatalogue();
+    auto* moon = dynamic_cast<Moon*>(planets.GetSolarSystemObject(PlanetCatalogue::kMoonPlace));
+    if (!moon) {
+        return;
+    }
+    // The Moon's place, and with it its phase, is worked out from the Earth's and the Sun's.
+    for (unsigned place : {PlanetCatalogue::kEarthPlace, PlanetCatalogue::kSunPlace}) {
+        if (SolarSystemObject* body = planets.GetSolarSystemObject(place)) {
+            body->SetTime(Time);
+        }
+    }
+    moon->SetTime(Time);
+    MoonItem.Set(*moon);
+}
+
+bool MapWindow::ShowPointerPosition(const TPoint& point)
+{
+    PolarCoord sky;
+    if (!pTransformation || !pTransformation->ReverseTranslate(point, sky)) {
+        return false;
+    }
+    PointerItem.Set(StellarCoord(PolarCoord(PositiveDegreeAngle(sky.GetRA()), sky.GetDec())));
+    return true;
 }
 
 // The horizon and the foreground.
@@ -807,6 +871,7 @@ void MapWindow::SetFieldRadius(double radius)
     bTransformationDirty = true;
     bGridDirty = true;
     InvalidateView();
+    OrientationItem.Set(*pOrientation);
 }
 
 void MapWindow::SetLocation(const LatLong& location)
@@ -819,6 +884,7 @@ void MapWindow::SetLocation(const LatLong& location)
     bTransformationDirty = true;
     bGridDirty = true;
     InvalidateView();
+    OrientationItem.Set(*pOrientation);
 }
 
 void MapWindow::SetOrientation(const OrientationInfo& orientation)
@@ -827,6 +893,7 @@ void MapWindow::SetOrientation(const OrientationInfo& orientation)
     bTransformationDirty = true;
     bGridDirty = true;
     InvalidateView();
+    OrientationItem.Set(*pOrientation);
 }
 
 void MapWindow::ChangeCenterOfView(const PolarCoord& centre)
@@ -841,6 +908,7 @@ void MapWindow::ChangeCenterOfView(const PolarCoord& centre)
         pOrientation->SetCenterOfView(centre);
         bTransformationDirty = true;
         bGridDirty = true;
+        OrientationItem.Set(*pOrientation);
     }
     InvalidateView();
 }
@@ -934,6 +1002,7 @@ void MapWindow::Copy(MapWindow& other)
 {
     SetDisplayParameters(other.Display);
     pOrientation = other.pOrientation->Clone();
+    OrientationItem.Set(*pOrientation);
     SetTime(other.Time);
     SetGridInfo(other.Grid);
     SetConstellationSettings(other.GetConstellationSettings());
@@ -1064,6 +1133,7 @@ void MapWindow::ReadOrientation(StateContainer& sc, int type)
 void MapWindow::AfterRestore()
 {
     MarkAllDirty();
+    RefreshAllStatus();
     InvalidateView();
 }
 

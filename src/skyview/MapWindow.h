@@ -42,11 +42,16 @@
 #include "skyview/DisplayParameters.h"
 #include "skyview/GridInfo.h"
 #include "skyview/LabelManager.h"
+#include "skyview/MoonStatusItem.h"
+#include "skyview/OrientationStatusItem.h"
+#include "skyview/PositionStatusItem.h"
+#include "skyview/TimeStatusItem.h"
 #include "time/AnimationSettings.h"
 #include "time/AstroTime.h"
 #include "time/TimeZone.h"
 
 class AstroObject;
+class AstroStatusWindow;
 class RotatingOrientationInfo;
 class StateContainer;
 class StarDisplayParameters;
@@ -92,6 +97,25 @@ public:
     void Erase(TDC& dc, const TRect& rect);
     // The red status line in the top left corner: local time, date and place.
     void DisplayStatus(TDC& dc, const TRect& rect);
+
+    // The status panel. The map owns its four blocks and keeps them up to date whether or not
+    // a panel shows them: the time (local) when the time changed, the Moon after a draw at a
+    // new time, the orientation whenever the centre, field, place or kind of view changes.
+    // Puts the blocks into the panel, from top to bottom pointer, time, orientation, Moon,
+    // and fills them. The panel is not owned.
+    void AttachStatusWindow(AstroStatusWindow& window);
+    // Forgets the panel, before it goes; the blocks leave it when it goes.
+    void DetachStatusWindow() { pStatusWindow = nullptr; }
+    AstroStatusWindow* GetStatusWindow() const { return pStatusWindow; }
+    // With a panel attached, fills the time, orientation and Moon blocks from the map's state.
+    void RefreshAllStatus();
+    // Shows in the pointer block the sky at a point of the window; false (and the block as it
+    // was) before the first draw or off the sky.
+    bool ShowPointerPosition(const TPoint& point);
+    const PositionStatusItem& GetPointerItem() const { return PointerItem; }
+    const TimeStatusItem& GetTimeItem() const { return TimeItem; }
+    const MoonStatusItem& GetMoonItem() const { return MoonItem; }
+    const OrientationStatusItem& GetOrientationItem() const { return OrientationItem; }
 
     // The horizon and the foreground.
     // The horizon of `o` as a magenta line through 200 points over twice the field radius of
@@ -243,6 +267,9 @@ private:
     void AfterRestore();
     // The orientation when it is a view on the ground, else null.
     RotatingOrientationInfo* GetRotatingOrientation() const;
+    // Brings the Earth, the Sun and the Moon to the map's time, which the planets' request
+    // does only while planets are shown, and fills the Moon block.
+    void TellMoonItem();
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};
@@ -276,7 +303,12 @@ private:
     AnimationSettings Animation;
     GridInfo Grid;
     LabelManager Labels;
+    AstroStatusWindow* pStatusWindow = nullptr;
     AstroObject* pHilitedObject = nullptr;
+    PositionStatusItem PointerItem{"Pointer Position: "};
+    TimeStatusItem TimeItem;
+    MoonStatusItem MoonItem;
+    OrientationStatusItem OrientationItem;
     bool bStatusDirty = true;
     std::string StatusText;
     TRect StatusRect;

@@ -12,11 +12,13 @@
 #include "host/HostFrameWindow.h"
 #include "host/HostStringTable.h"
 #include "host/ScopedHome.h"
+#include "platform/ControlLook.h"
 #include "platform/Registry.h"
 #include "projection/FixedOrientationInfo.h"
 #include "projection/RotatingOrientationInfo.h"
 #include "shell/AstroNoxWindow.h"
 #include "shell/OrbiscopeEntry.h"
+#include "skyview/AstroStatusWindow.h"
 #include "skyview/MapWindow.h"
 #include "windows/HeadlessFixture.h"
 
@@ -257,4 +259,90 @@ TEST_F(AstroNoxWindowTest, AReferenceFromTheMapGoesToTheHostsFrame)
     window.SendMessage(AstroNoxWindow::kReferenceMessage, 0, 0);
     EXPECT_EQ(launched, reference);
     SetHostFrameAPI(&Frame);
+}
+
+// The status panel comes with a bookmark that asks for it: a fifth of the width at the left,
+// the map beside it, and a bookmark made then asks for it again.
+TEST_F(AstroNoxWindowTest, ABookmarkBringsTheStatusPanelBesideTheMapAndTakesItAway)
+{
+    const std::string withPanel =
+        "FullState=1 AstroNoxWindow=<MapWindow=<Orientation_Type=0 Orientation=<Base=<Radius=5> "
+        "CenterOfView=<RA=56.75 Dec=24.1167> Zenith=<RA=56.75 Dec=90>>> DisplayStatusWindow=1>";
+    AstroNoxWindow& window = Start(withPanel.c_str());
+    MapWindow& map = *window.GetMap();
+    AstroStatusWindow* panel = window.GetStatusWindow();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(map.GetStatusWindow(), panel);
+    EXPECT_NE(panel->HWindow, nullptr);
+    EXPECT_EQ(panel->GadgetCount(), 4);
+    EXPECT_EQ(panel->FirstGadget(), &map.GetPointerItem());
+    EXPECT_EQ(map.GetOrientationItem().GetLine(1), "Field of View: 10");
+
+    // Left: a sixtieth of the width; wide: a fifth of it. The map keeps the gap and the bezel
+    // from it and the bezel from the other edges.
+    const int gap = Frame.GetMetric(kHostMetricBezelGap);
+    const int bezel = Frame.GetMetric(kHostMetricBezelWidth);
+    EXPECT_EQ(panel->GetRect(), TRect(kWidth / 60, 0, kWidth / 60 + kWidth / 5, kHeight));
+    EXPECT_EQ(map.GetRect(), TRect(kWidth / 60 + kWidth / 5 + gap + bezel, bezel, kWidth - bezel,
+                                   kHeight - bezel));
+    pFrame->MoveWindow(0, 0, 600, 300);
+    Pump();
+    EXPECT_EQ(panel->GetRect(), TRect(10, 0, 130, 300));
+    EXPECT_EQ(map.GetRect().left, 130 + gap + bezel);
+
+    // The panel shows its blocks: text on the button face.
+    auto picture = WindowSystem::Get().CaptureWindow(panel->HWindow);
+    const COLORREF face = GetSysColor(COLOR_BTNFACE);
+    int ink = 0;
+    for (int y = 0; y < picture->Height(); ++y) {
+        for (int x = 0; x < picture->Width(); ++x) {
+            ink += picture->ColorAt(x, y) != face;
+        }
+    }
+    EXPECT_GT(ink, 200);
+
+    auto bookmarkOf = [&]() {
+        return std::unique_ptr<HostBookmark>(reinterpret_cast<HostBookmark*>(
+            window.SendMessage(AstroNoxWindow::kCreateBookmarkMessage, 0, 0)));
+    };
+    const std::unique_ptr<HostBookmark> shown = bookmarkOf();
+    ASSERT_NE(shown, nullptr);
+    EXPECT_NE(shown->Command.find("DisplayStatusWindow=1"), std::string::npos);
+
+    // A view without the panel takes it away; the map keeps its blocks.
+    window.HandleCommandString(kPleiadesView);
+    EXPECT_EQ(window.GetStatusWindow(), nullptr);
+    EXPECT_EQ(map.GetStatusWindow(), nullptr);
+    EXPECT_EQ(map.GetRect(), TRect(bezel, bezel, 600 - bezel, 300 - bezel));
+    EXPECT_EQ(map.GetOrientationItem().GetLine(1), "Field of View: 10");
+    const std::unique_ptr<HostBookmark> hidden = bookmarkOf();
+    ASSERT_NE(hidden, nullptr);
+    EXPECT_NE(hidden->Command.find("DisplayStatusWindow=0"), std::string::npos);
+
+    // The first bookmark brings it back.
+    window.SendMessage(AstroNoxWindow::kNewBookmarkMessage, 0,
+                       reinterpret_cast<LPARAM>(shown.get()));
+    ASSERT_NE(window.GetStatusWindow(), nullptr);
+    EXPECT_EQ(window.GetStatusWindow()->GadgetCount(), 4);
+    EXPECT_EQ(map.GetStatusWindow(), window.GetStatusWindow());
+}
+
+TEST_F(AstroNoxWindowTest, AStatusPanelAskedForBeforeTheWindowIsShownComesWithIt)
+{
+    // The window tree owns the component.
+    auto* window = new AstroNoxWindow(pFrame.get());
+    window->SetStatusWindowState(true);
+    AstroStatusWindow* panel = window->GetStatusWindow();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->HWindow, nullptr);
+    window->SetStatusWindowState(true);
+    EXPECT_EQ(window->GetStatusWindow(), panel) << "one panel at most";
+
+    ASSERT_TRUE(window->Create());
+    Pump();
+    EXPECT_NE(panel->HWindow, nullptr);
+    EXPECT_EQ(panel->GetRect(), TRect(kWidth / 60, 0, kWidth / 60 + kWidth / 5, kHeight));
+    EXPECT_FALSE(window->GetMap()->GetTimeItem().GetLine(0).empty())
+        << "the first draw told the time";
+    window->Destroy();
 }

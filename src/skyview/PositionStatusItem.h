@@ -1,0 +1,21 @@
+#pragma once
+// The status block of a position on the sky: under its heading the RA and the Dec, each in
+// degrees and then sexagesimal. The map fills it with the sky under the pointer.
+#include <string>
+
+#include "skyview/TextStatusItem.h"
+
+class StellarCoord;
+
+class PositionStatusItem : public TextStatusItem
+{
+public:
+    static constexpr int kId = 1;
+
+    explicit PositionStatusItem(const std::string& heading);
+
+    int GetCharacterCount() const override { return 30; }
+
+    // "RA: (<degrees>)07h 30m 12.5s" and "Dec: (<degrees>)+ 12° 30' 15.5\"".
+    void Set(const StellarCoord& position);
+};
