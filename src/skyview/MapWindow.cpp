@@ -191,11 +191,17 @@ void MapWindow::DrawAll()
         limit.Start(DrawTimeLimit::ForScrollInterval(ScrollInfo.GetInterval()));
     }
 
-    // A map that was given no time opens at the present moment.
+    // A map that was given no time opens at the nearest dark time after the present moment.
+    // The bodies, the Earth among them, take the present moment first: the Sun's place and
+    // the zenith are asked at that time.
     if (bNearestDarkPending) {
         MakeTimeCurrent();
         Collector.GetPlanetCatalogue().SetTime(Time);
+        Time = GetNearestDarkTime();
         bNearestDarkPending = false;
+        bTimeDirty = true;
+        bStatusDirty = true;
+        Labels.SetDirty();
     }
 
     bFirstDrawPending = false;

@@ -9,7 +9,8 @@
 // bitmap is an 8-bit DIB section whose width is a multiple of 8, so that stars can be written
 // straight into its bits.
 //
-// DrawAll runs one fixed order of steps: the time update, a pending centre, a new
+// DrawAll runs one fixed order of steps: the move to the nearest dark time when the map was
+// asked to open there, the time update, a pending centre, a new
 // Transformation when the projection changed, the request for objects, the background, the
 // grid, the objects, the labels, the horizon, the status line. A draw is cut short only while
 // the view scrolls, by the scroll interval less 10 ms.
@@ -65,6 +66,12 @@ public:
     static constexpr std::uint32_t kMaximumGridLines = 500;
     // The x of a point that lifts the pen in a grid polyline.
     static constexpr int kPenUpMarker = -1000;
+    // Which crossing of the horizon a search looks for.
+    enum HorizonTypes
+    {
+        Rising = 0,
+        Setting = 1,
+    };
 
     explicit MapWindow(TWindow* parent);
     ~MapWindow() override;
@@ -118,6 +125,36 @@ public:
     // Raises no flag.
     void ClipAtHorizon(bool clip);
     bool IsClippedAtHorizon() const;
+
+    // Sky events, for the map's place and time.
+    //
+    // Rise and set times come from a closed solution on the sphere: the longitude under the
+    // object at the moment it crosses the horizon, then the sidereal time of that longitude
+    // at the day's midnight. Sidereal hours are taken for solar hours, so a time is late by
+    // up to four minutes; refraction, parallax and the Sun's disc are not allowed for.
+    //
+    // A view fixed on the stars stands on no ground: it has no place and no horizon to
+    // cross, so the rise and set times of such a view are the map's time unchanged.
+    //
+    // Whether `o` stands above the horizon of the view's zenith at its present position.
+    bool ObjectIsUp(const AstroObject& o) const;
+    // Whether `o` reaches above the horizon at its upper transit; also true for an object that
+    // never sets.
+    bool ObjectCanRise(const AstroObject& o) const;
+    // The next moment, at or after the map's time, at which direction `p` crosses the horizon
+    // that way; the map's time when it never does.
+    AstroTime GetHorizonTime(const PolarCoord& p, HorizonTypes type) const;
+    AstroTime GetRiseTime(const PolarCoord& p) const;
+    AstroTime GetSetTime(const PolarCoord& p) const;
+    // The rising of an object; one that moves is followed through up to three rounds, with
+    // the observer's body and the object moved to each estimate and brought back to the
+    // map's time afterwards.
+    AstroTime GetRiseTime(AstroObject& o);
+    // The map's time when the Sun is down or never sets there, else the next sunset (no
+    // twilight is allowed for).
+    AstroTime GetNearestDarkTime();
+    // Moves the time to ten minutes after the object rises and turns the view to it.
+    void ShowObjectRising(AstroObject& o);
 
     // Message handlers.
     void EvSize(UINT sizeType, TSize& size);
