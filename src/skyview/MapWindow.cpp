@@ -23,6 +23,7 @@
 #include "projection/PerspectiveModifier.h"
 #include "projection/RotatingOrientationInfo.h"
 #include "skyview/DrawTimeLimit.h"
+#include "skyview/MouseDragger.h"
 #include "skyview/StarDisplayParameters.h"
 #include "solar/SolarSystemObject.h"
 #include "state/StateContainer.h"
@@ -88,6 +89,7 @@ MapWindow::~MapWindow()
     pMemoryDC.reset();
     FreeDrawBitmap();
     pHorizonOrientation.reset();
+    pDragger.reset();
     DeleteForegroundBitmap();
     pPendingCenter.reset();
 }
@@ -97,6 +99,10 @@ const TResponseRow* MapWindow::Find(const TEventInfo& event) const
     static const TResponseTable table{
         EvRow<WM_SIZE, &MapWindow::EvSize>(),
         EvRow<WM_TIMER, &MapWindow::EvTimer>(),
+        EvRow<WM_LBUTTONDOWN, &MapWindow::EvLButtonDown>(),
+        EvRow<WM_LBUTTONUP, &MapWindow::EvLButtonUp>(),
+        EvRow<WM_RBUTTONDOWN, &MapWindow::EvRButtonDown>(),
+        EvRow<WM_MOUSEMOVE, &MapWindow::EvMouseMove>(),
         EvRow<WM_ERASEBKGND, &MapWindow::EvEraseBkgnd>(),
         MsgRow<kShowStartingObjectMessage, &MapWindow::EvShowStartingObject>(),
     };
@@ -744,17 +750,15 @@ bool MapWindow::EvEraseBkgnd(HDC)
 
 LRESULT MapWindow::EvShowStartingObject(WPARAM, LPARAM)
 {
-    if (pStartingObject) {
-        pStartingObject->SetTime(Time);
-        pStartingObject->ReleaseReference();
-        pStartingObject = nullptr;
+    // Taken off the member first: showing it may paint, and a paint would post it again.
+    AstroObject* object = pStartingObject;
+    pStartingObject = nullptr;
+    if (object) {
+        object->SetTime(Time);
+        ShowObject(*object);
+        object->ReleaseReference();
     }
     return 0;
-}
-
-void MapWindow::EvTimer(UINT)
-{
-    // The map runs no timers of its own yet.
 }
 
 // Catalogues the user loads.
@@ -902,6 +906,16 @@ void MapWindow::ShowComets(bool show)
         bShowComets = show;
         Labels.SetDirty();
         InvalidateView();
+    }
+}
+
+void MapWindow::SetPlanetOptions(const PlanetOptions& options)
+{
+    Collector.GetPlanetCatalogue().SetOptions(options);
+    Labels.SetDirty();
+    InvalidateView();
+    if (HWindow) {
+        UpdateWindow();
     }
 }
 

@@ -20,6 +20,12 @@
 // foreground is a picture with a mask (a landscape, a window frame) that Paint merges over
 // the finished sky on every copy to the screen.
 //
+// The mouse: a left click on empty sky centres the view there and on an object opens its
+// information (a constellation's article); a right click only centres; a drag of more than 4
+// pixels draws a rubber band that zooms to its area on release. Scrolling and blinking run on
+// the map's timers 3 and 4. Named objects are brought into view by ShowObject, which asks the
+// user before it moves the time to a rising or turns the view below the horizon.
+//
 // A new map looks east from San Francisco (latitude 37.8 N, longitude 122.4 W), 30 degrees
 // above the horizon with a field radius of 20 degrees, until a view is set or restored. Angles
 // are degrees, times are Universal Time; the time zone is only for what the user reads.
@@ -48,6 +54,8 @@
 #include "time/TimeZone.h"
 
 class AstroObject;
+class MouseDragger;
+class PlanetOptions;
 class RotatingOrientationInfo;
 class StateContainer;
 class StarDisplayParameters;
@@ -66,6 +74,21 @@ public:
     static constexpr std::uint32_t kMaximumGridLines = 500;
     // The x of a point that lifts the pen in a grid polyline.
     static constexpr int kPenUpMarker = -1000;
+    // The message that hands a status text (a const char*) to the parent.
+    static constexpr UINT kStatusTextMessage = 0x0500;
+    // The map's timers for continuous scrolling and blinking.
+    static constexpr UINT_PTR kScrollTimer = 3;
+    static constexpr UINT_PTR kBlinkTimer = 4;
+    static constexpr UINT kBlinkInterval = 500;
+    // The pointer must move further than this (|dx| + |dy|, pixels) with the button down
+    // before a press becomes a rubber band; a band narrower or lower than kMinimumZoomSide
+    // does not zoom.
+    static constexpr int kDragThreshold = 4;
+    static constexpr int kMinimumZoomSide = 4;
+    // A rubber-band zoom never narrows the field below this radius, in degrees.
+    static constexpr double kMinimumZoomRadius = 1.0;
+    // How far from the pointer (pixels) an object still counts as under it.
+    static constexpr int kPickRadius = 10;
     // Which crossing of the horizon a search looks for.
     enum HorizonTypes
     {
@@ -156,12 +179,70 @@ public:
     // Moves the time to ten minutes after the object rises and turns the view to it.
     void ShowObjectRising(AstroObject& o);
 
+    // Navigation and selection.
+    // The sky direction under a point of the window; false before the first draw and off the
+    // projected sphere.
+    bool MapWindowPointToPolarCoord(const TPoint& point, PolarCoord& coord) const;
+    // Centres the view on the middle of the rectangle, with a field that reaches its corners.
+    void ZoomToArea(const TRect& rect);
+    // Starts moving the view continuously, one step at once and one on every tick of the
+    // scroll timer, until the orientation cannot move on or StopScrolling.
+    void Scroll(const AstroScrollInfo& info);
+    void ContinueScrolling();
+    void StopScrolling();
+    bool IsScrolling() const { return bScrolling; }
+    const AstroScrollInfo& GetScrollInfo() const { return ScrollInfo; }
+    // Brings an object into view. Before the first draw the object waits for it. An object
+    // below the horizon brings questions: to see it rise (the time moves), or, for one that
+    // never rises or when the view may sink below the horizon, to see where it is now.
+    void ShowObject(AstroObject& o);
+    // Turns on the labels of the kind of object just located.
+    void DisplayLabelsForObjectType(AstroObject& o);
+    // A click on an object: a constellation leads to its article, any other object to its
+    // information.
+    void HandleObjectSelection(AstroObject& o);
+    // Shows what is known of the object; the information dialog that does so is not part of
+    // the map yet, and until it is nothing is shown.
+    virtual void DisplayObjectInfo(AstroObject& o);
+    // Opens the object's first article through the parent.
+    void DereferenceObject(AstroObject& o);
+    // Sends the reference message with the text to the parent.
+    void GenerateReference(const std::string& reference);
+    // The object under a point: the first label that holds it, else the nearest object within
+    // kPickRadius pixels; null when there is none.
+    AstroObject* GetLinkObject(const TPoint& point);
+    // A new reference, owned by the caller, to the object of a uid; null for a uid that names
+    // nothing the map holds.
+    AstroObject* GetObjectFromUid(std::uint32_t uid);
+    // Marks the object with a small red frame on the screen; the mark of another goes.
+    void SetHilitedObject(AstroObject& o);
+    void DrawHilite(AstroObject& o);
+    const AstroObject* GetHilitedObject() const { return pHilitedObject; }
+    // Blinking every kBlinkInterval: the object, or its label, is left out every other step.
+    void BlinkObject(AstroObject& o);
+    void BlinkLabelForObject(AstroObject& o);
+    void StopBlinking();
+    const AstroObject* GetBlinkObject() const { return pBlinkObject; }
+    const AstroObject* GetBlinkLabelObject() const { return pBlinkLabelObject; }
+    bool GetBlinkPhase() const { return bBlinkPhase; }
+    // Hands a text for the status bar to the parent.
+    void ShowStatus(const std::string& text);
+    // While disabled the mouse neither moves the view nor picks objects; a click still goes to
+    // the parent when a single-click message is set.
+    void DisableMouse(bool disable) { bMouseDisabled = disable; }
+    bool IsMouseDisabled() const { return bMouseDisabled; }
+    const MouseDragger* GetDragger() const { return pDragger.get(); }
+
     // Message handlers.
     void EvSize(UINT sizeType, TSize& size);
     // The off-screen copy covers the window, so there is nothing to erase.
     bool EvEraseBkgnd(HDC dc);
     LRESULT EvShowStartingObject(WPARAM wParam, LPARAM lParam);
     void EvTimer(UINT id);
+    void EvLButtonDown(UINT keys, TPoint& point);
+    void EvMouseMove(UINT keys, TPoint& point);
+    void EvLButtonUp(UINT keys, TPoint& point);
+    void EvRButtonDown(UINT keys, TPoint& point);
     const TResponseRow* Find(const TEventInfo& event) const override;
 
     // Changes of the view. Each raises the flags its change needs and invalidates the window.
@@ -187,6 +268,8 @@ public:
     void ShowMessierObjects(bool show);
     void ShowComets(bool show);
     void ShowPlanets(bool show);
+    // Redraws at once with the planets' labels as the options say.
+    void SetPlanetOptions(const PlanetOptions& options);
     // Takes the view of another map: display, a copy of its orientation, time and grid.
     void Copy(MapWindow& other);
 
@@ -211,11 +294,15 @@ public:
     void SaveDefaultState(StateContainer& sc) const;
     void RestoreDefaultState(StateContainer& sc);
 
-    // Messages to the parent: an object's article reference, and a new projection.
+    // Messages to the parent: an object's article reference (a std::string*, sent), a new
+    // projection (posted), and a click (a PolarCoord*, sent, in place of the map's own click
+    // handling). 0 sends nothing.
     void SetReferenceMessage(UINT message) { nReferenceMessage = message; }
     void SetFieldChangeMessage(UINT message) { nFieldChangeMessage = message; }
+    void SetSingleClickMessage(UINT message) { nSingleClickMessage = message; }
     UINT GetReferenceMessage() const { return nReferenceMessage; }
     UINT GetFieldChangeMessage() const { return nFieldChangeMessage; }
+    UINT GetSingleClickMessage() const { return nSingleClickMessage; }
 
     // What the map holds.
     const AstroTime& GetTime() const { return Time; }
@@ -275,6 +362,11 @@ private:
     void AfterRestore();
     // The orientation when it is a view on the ground, else null.
     RotatingOrientationInfo* GetRotatingOrientation() const;
+    // Asks the user a yes-no question; true for yes.
+    bool AskYesNo(const std::string& text, const std::string& caption);
+    // Redraws the frame at once although nothing in the view changed (a blink step, the end of
+    // a scroll): the status flag is the cheapest one that makes the paint draw.
+    void RedrawNow();
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};
@@ -300,6 +392,7 @@ private:
     std::uint32_t nWaitCursors = 0;
     UINT nReferenceMessage = 0;
     UINT nFieldChangeMessage = 0;
+    UINT nSingleClickMessage = 0;
     std::unique_ptr<Transformation> pTransformation;
     bool bMilitaryTime = false;
     AstroTime Time;
@@ -308,7 +401,11 @@ private:
     AnimationSettings Animation;
     GridInfo Grid;
     LabelManager Labels;
+    // The object marked on the screen; it lives as long as the visible list.
     AstroObject* pHilitedObject = nullptr;
+    // Where the left button went down, and the rubber band once the pointer moved away.
+    TPoint DragStart;
+    std::unique_ptr<MouseDragger> pDragger;
     bool bStatusDirty = true;
     std::string StatusText;
     TRect StatusRect;
@@ -326,10 +423,13 @@ private:
     // A missing or unreadable picture of the present setting was told on dbstream.
     bool bForegroundProblemTold = false;
     bool bShowPlanets = true;
+    bool bMouseDisabled = false;
     std::string LocationName;
     // The name of the object last brought into view; empty after the view moved freely.
     std::string LastTargetName;
+    // Compared with the drawn objects, never followed: the caller keeps them alive.
     AstroObject* pBlinkObject = nullptr;
+    AstroObject* pBlinkLabelObject = nullptr;
     bool bBlinkPhase = false;
 
     // Guards Paint against re-entry, for every map of the process (a preview's too).
