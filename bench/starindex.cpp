@@ -141,7 +141,7 @@ void ReadAllSegments(benchmark::State& state)
     HostFile file(kLargeCatalogue, HostFile::ReadOnly);
     double maxMagnitude = 0.0;
     SegmentTable table;
-    if (!file.IsOpen() || !LoadDouble(file, maxMagnitude) || !table.Load(file)) {
+    if (!file.IsOpen() || !file.ReadDouble(maxMagnitude) || !table.Load(file)) {
         state.SkipWithError("stars.bin not found");
         return;
     }

@@ -32,10 +32,8 @@ void DrawMoon(benchmark::State& state, bool newScaleEachFrame)
     planets.SetTime(AtCenturies(0.0));
     auto* moon = static_cast<MoonView*>(planets.GetView(PlanetCatalogue::kMoonPlace));
     const PolarCoord place = moon->GetPosition();
-    Transformation narrow(*map.Dc, TRect(0, 0, kWidth, kHeight), place, 5.0,
-                          PolarCoord(0.0, 90.0));
-    Transformation wide(*map.Dc, TRect(0, 0, kWidth, kHeight), place, 5.5,
-                        PolarCoord(0.0, 90.0));
+    Transformation narrow(*map.Dc, TRect(0, 0, kWidth, kHeight), place, 5.0, PolarCoord(0.0, 90.0));
+    Transformation wide(*map.Dc, TRect(0, 0, kWidth, kHeight), place, 5.5, PolarCoord(0.0, 90.0));
     TPoint point;
     narrow.Translate(place, point);
     moon->SetDisplayPoint(point);

@@ -23,6 +23,11 @@ AstroItemCollector::AstroItemCollector() : pOrigin(Planets.GetOrigin())
     if (pOrigin != nullptr) {
         Comets.SetOrigin(*pOrigin);
     }
+    // A missing file is reported by the text file and leaves the catalogue empty.
+    TextFile messierText;
+    messierText.OpenForReading(
+        HostProfile().Get(kSection, "MessierFile", "ed:\\messier.txt").c_str());
+    MessierObjects.Load(messierText);
 }
 
 AstroItemCollector::~AstroItemCollector() = default;
@@ -60,13 +65,15 @@ bool AstroItemCollector::SatisfyRequest(Request& request, AstroList& list)
             pScrollCatalogue = nullptr;
         }
     }
-    // Constellations are asked here, unless the time alone changed, once the collector holds
-    // them.
+    if (!timeOnly && request.GetCatalogues().Has(AstroCatalogue::CONSTELLATIONS)) {
+        Constellations.SatisfyRequest(request, list);
+    }
     if (request.GetCatalogues().Has(AstroCatalogue::PLANETS)) {
         Planets.SatisfyRequest(request, list);
     }
-    // Messier objects are asked here, unless the time alone changed, once the collector holds
-    // them.
+    if (!timeOnly && request.GetCatalogues().Has(AstroCatalogue::MESSIER_OBJECTS)) {
+        MessierObjects.SatisfyRequest(request, list);
+    }
     if (request.GetCatalogues().Has(AstroCatalogue::COMETS)) {
         Comets.SatisfyRequest(request, list);
     }

@@ -2,10 +2,9 @@
 // Owns the catalogues and answers each draw's question: which objects can this view show?
 //
 // The answer fills an AstroList in drawing order: objects added from outside first, then
-// stars, planets and comets; constellations (after the stars) and Messier objects (after the
-// planets) take their places in that order when those catalogues join the collector. Each request
-// is compared with the last one answered, so an unchanged view costs nothing and a change of time
-// alone keeps everything that does not move.
+// stars, constellations, planets, Messier objects and comets. Each request is compared with the
+// last one answered, so an unchanged view costs nothing and a change of time alone keeps
+// everything that does not move.
 //
 // Of the star catalogues the collector uses the shallowest that reaches the limiting
 // magnitude: with the shipped files the small bright-star file serves every view down to its
@@ -14,13 +13,17 @@
 //
 // Star files come from the profile, section "Orbiscope": "BrightCat" (default
 // "ed:\bright.bin") and "LargeStarCatalogueFile" (default "cd:\win32\stars.bin"). They are
-// opened at the first request that wants stars, or at the first lookup of a star.
+// opened at the first request that wants stars, or at the first lookup of a star. The Messier
+// objects are read when the collector is made, from the text file of the profile's
+// "MessierFile" (default "ed:\messier.txt").
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "catalogues/ConstellationCatalogue.h"
+#include "catalogues/MessierCatalogue.h"
 #include "catalogues/PointerVector.h"
 #include "catalogues/Request.h"
 #include "catalogues/StarCatalogue.h"
@@ -88,6 +91,9 @@ public:
     // The body the views are seen from: the Earth of the planet catalogue.
     SolarSystemObject* GetOrigin() const { return pOrigin; }
     PlanetCatalogue& GetPlanetCatalogue() { return Planets; }
+    ConstellationCatalogue& GetConstellationCatalogue() { return Constellations; }
+    const ConstellationCatalogue& GetConstellationCatalogue() const { return Constellations; }
+    MessierCatalogue& GetMessierCatalogue() { return MessierObjects; }
     CometCatalogue& GetCometCatalogue() { return Comets; }
     // The catalogues, star files first in the order of their names, then the user's.
     const PointerVector<StarCatalogue>& GetStarCatalogues() const { return StarCatalogues; }
@@ -107,8 +113,9 @@ private:
     std::size_t nFileCatalogues = 0;
     bool bFileCataloguesMade = false;
 
-    // The Messier and constellation catalogues take their places beside these.
     PlanetCatalogue Planets;
+    ConstellationCatalogue Constellations;
+    MessierCatalogue MessierObjects;
     CometCatalogue Comets;
     SolarSystemObject* pOrigin = nullptr;
 

@@ -6,34 +6,6 @@
 #include "host/HostFile.h"
 #include "platform/DebugStream.h"
 
-namespace {
-
-bool LoadInt32(HostFile& file, std::int32_t& value)
-{
-    unsigned char bytes[4];
-    if (file.Read(bytes, 4) != 4) {
-        return false;
-    }
-    std::uint32_t word = 0;
-    for (int i = 0; i < 4; ++i) {
-        word |= std::uint32_t(bytes[i]) << (8 * i);
-    }
-    value = std::int32_t(word);
-    return true;
-}
-
-bool DumpInt32(HostFile& file, std::int32_t value)
-{
-    unsigned char bytes[4];
-    std::uint32_t word = std::uint32_t(value);
-    for (int i = 0; i < 4; ++i) {
-        bytes[i] = static_cast<unsigned char>(word >> (8 * i));
-    }
-    return file.Write(bytes, 4) == 4;
-}
-
-} // namespace
-
 Segment::Segment(const Segment& other)
     : Range(other.Range), FileOffset(other.FileOffset), StarCount(other.StarCount),
       ByteSize(other.ByteSize)
@@ -55,8 +27,8 @@ bool Segment::LoadHeader(HostFile& file)
 {
     DegreeRange ra, dec;
     std::int32_t offset = 0, count = 0, bytes = 0;
-    if (!ra.Load(file) || !dec.Load(file) || !LoadInt32(file, offset) || !LoadInt32(file, count) ||
-        !LoadInt32(file, bytes)) {
+    if (!ra.Load(file) || !dec.Load(file) || !file.ReadInt32(offset) || !file.ReadInt32(count) ||
+        !file.ReadInt32(bytes)) {
         return false;
     }
     Range = SkyRange(ra, dec);
@@ -71,9 +43,9 @@ bool Segment::DumpHeader(HostFile& file, std::int32_t fileOffset, std::int32_t s
 {
     bool written = Range.GetRA().Dump(file);
     written = Range.GetDec().Dump(file) && written;
-    written = DumpInt32(file, fileOffset) && written;
-    written = DumpInt32(file, starCount) && written;
-    return DumpInt32(file, byteSize) && written;
+    written = file.WriteInt32(fileOffset) && written;
+    written = file.WriteInt32(starCount) && written;
+    return file.WriteInt32(byteSize) && written;
 }
 
 bool Segment::Load(HostFile& file)

@@ -47,12 +47,8 @@ bool SegmentTable::Load(HostFile& file)
 {
     clear();
     std::int32_t count = 0;
-    unsigned char bytes[4];
-    if (file.Read(bytes, 4) != 4) {
+    if (!file.ReadInt32(count)) {
         return false;
-    }
-    for (int i = 3; i >= 0; --i) {
-        count = std::int32_t(std::uint32_t(count) << 8 | bytes[i]);
     }
     for (std::int32_t i = 0; i < count; ++i) {
         Segment segment;
@@ -125,12 +121,7 @@ bool SegmentTable::Dump(HostFile& file)
     }
     std::int64_t offset = start + 4 + std::int64_t(Segment::kHeaderSize) * std::int64_t(size());
 
-    const std::uint32_t count = std::uint32_t(size());
-    unsigned char bytes[4];
-    for (int i = 0; i < 4; ++i) {
-        bytes[i] = static_cast<unsigned char>(count >> (8 * i));
-    }
-    bool written = file.Write(bytes, 4) == 4;
+    bool written = file.WriteInt32(std::int32_t(size()));
     for (Segment& segment : *this) {
         StarArray* stars = segment.GetStars();
         std::int32_t starCount = stars ? std::int32_t(stars->size()) : 0;

@@ -10,6 +10,7 @@
 #include "catalogues/StringParser.h"
 #include "coords/StellarCoord.h"
 #include "host/HostFile.h"
+#include "host/LittleEndian.h"
 #include "platform/DebugStream.h"
 #include "skyview/DisplayParameters.h"
 #include "skyview/Label.h"
@@ -23,42 +24,6 @@ constexpr std::size_t kMagnitudeOffset = 5;
 constexpr std::size_t kRAOffset = 13;
 constexpr std::size_t kDecOffset = 21;
 
-void PutUInt32(unsigned char* p, std::uint32_t value)
-{
-    for (int i = 0; i < 4; ++i) {
-        p[i] = static_cast<unsigned char>(value >> (8 * i));
-    }
-}
-
-std::uint32_t GetUInt32(const unsigned char* p)
-{
-    std::uint32_t value = 0;
-    for (int i = 0; i < 4; ++i) {
-        value |= std::uint32_t(p[i]) << (8 * i);
-    }
-    return value;
-}
-
-void PutDouble(unsigned char* p, double value)
-{
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    for (int i = 0; i < 8; ++i) {
-        p[i] = static_cast<unsigned char>(bits >> (8 * i));
-    }
-}
-
-double GetDouble(const unsigned char* p)
-{
-    std::uint64_t bits = 0;
-    for (int i = 0; i < 8; ++i) {
-        bits |= std::uint64_t(p[i]) << (8 * i);
-    }
-    double value = 0.0;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
-}
-
 // The fixed fields of a record that starts at `p`.
 struct RecordFields
 {
@@ -70,8 +35,8 @@ struct RecordFields
 
 RecordFields ReadFields(const unsigned char* p)
 {
-    return {GetUInt32(p + kSAOOffset), GetDouble(p + kMagnitudeOffset), GetDouble(p + kRAOffset),
-            GetDouble(p + kDecOffset)};
+    return {LittleEndian::GetUInt32(p + kSAOOffset), LittleEndian::GetDouble(p + kMagnitudeOffset),
+            LittleEndian::GetDouble(p + kRAOffset), LittleEndian::GetDouble(p + kDecOffset)};
 }
 
 // A number in the stream's default form, six significant digits, whatever the global locale.
@@ -102,10 +67,10 @@ bool Star::BlockInfo::Dump(HostFile& file) const
     unsigned char record[kRecordHeaderSize + kMaxNameLength];
     const std::size_t size = GetSize();
     record[0] = static_cast<unsigned char>(size);
-    PutUInt32(record + kSAOOffset, SAONumber);
-    PutDouble(record + kMagnitudeOffset, Magnitude);
-    PutDouble(record + kRAOffset, Position.GetRA().GetDegrees());
-    PutDouble(record + kDecOffset, Position.GetDec().GetDegrees());
+    LittleEndian::PutUInt32(record + kSAOOffset, SAONumber);
+    LittleEndian::PutDouble(record + kMagnitudeOffset, Magnitude);
+    LittleEndian::PutDouble(record + kRAOffset, Position.GetRA().GetDegrees());
+    LittleEndian::PutDouble(record + kDecOffset, Position.GetDec().GetDegrees());
     std::memcpy(record + kRecordHeaderSize, Name.data(), size - kRecordHeaderSize);
     return file.Write(record, size) == size;
 }

@@ -32,7 +32,7 @@ bool StarCatalogue::Load(const std::string& name)
         dbstream << "Could not open star file: " << Name << dbendl;
         return false;
     }
-    if (!LoadDouble(File, MaxMagnitude) || !Segments.Load(File)) {
+    if (!File.ReadDouble(MaxMagnitude) || !Segments.Load(File)) {
         dbstream << "Star file " << File.GetPath() << " ends inside its segment table; "
                  << Segments.size() << " segments read." << dbendl;
         return false;
@@ -126,7 +126,7 @@ bool StarCatalogue::Dump(const std::string& name)
     if (!written) {
         dbstream << "Could not create star file: " << target << dbendl;
     } else {
-        written = DumpDouble(out, MaxMagnitude);
+        written = out.WriteDouble(MaxMagnitude);
         written = Segments.Dump(out) && written;
         out.Close();
         if (!written) {

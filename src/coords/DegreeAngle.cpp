@@ -64,12 +64,12 @@ StateContainer& DegreeAngle::operator>>(StateContainer& sc)
 
 bool DegreeAngle::Dump(HostFile& file) const
 {
-    return DumpDouble(file, Degrees);
+    return file.WriteDouble(Degrees);
 }
 
 bool DegreeAngle::Load(HostFile& file)
 {
-    return LoadDouble(file, Degrees);
+    return file.ReadDouble(Degrees);
 }
 
 StateContainer& operator<<(StateContainer& sc, const DegreeAngle& angle)
@@ -80,29 +80,4 @@ StateContainer& operator<<(StateContainer& sc, const DegreeAngle& angle)
 StateContainer& operator>>(StateContainer& sc, DegreeAngle& angle)
 {
     return angle >> sc;
-}
-
-bool DumpDouble(HostFile& file, double value)
-{
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    unsigned char bytes[8];
-    for (int i = 0; i < 8; ++i) {
-        bytes[i] = static_cast<unsigned char>(bits >> (8 * i));
-    }
-    return file.Write(bytes, sizeof bytes) == sizeof bytes;
-}
-
-bool LoadDouble(HostFile& file, double& value)
-{
-    unsigned char bytes[8];
-    if (file.Read(bytes, sizeof bytes) != sizeof bytes) {
-        return false;
-    }
-    std::uint64_t bits = 0;
-    for (int i = 7; i >= 0; --i) {
-        bits = (bits << 8) | bytes[i];
-    }
-    std::memcpy(&value, &bits, sizeof value);
-    return true;
 }

@@ -56,7 +56,3 @@ protected:
 // `sc << AstroKey("RA") << angle` and `sc >> AstroKey("RA") >> angle` in a state chain.
 StateContainer& operator<<(StateContainer& sc, const DegreeAngle& angle);
 StateContainer& operator>>(StateContainer& sc, DegreeAngle& angle);
-
-// The 8 bytes of a double in a file: little-endian IEEE 754, whatever the machine.
-bool DumpDouble(HostFile& file, double value);
-bool LoadDouble(HostFile& file, double& value);

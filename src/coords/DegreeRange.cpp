@@ -107,7 +107,11 @@ void DegreeRange::Enclose(DegreeAngle& angle)
     }
 
     Center = DegreeAngle((end + target) / 2.0);
-    HalfWidth = GetDifference(Center, angle);
+    // The halving may round the centre towards either end: the wider of the two gaps holds
+    // both ends, so every angle enclosed before stays contained.
+    const DegreeAngle toAngle = GetDifference(Center, angle);
+    const DegreeAngle toEnd = GetDifference(Center, DegreeAngle(end));
+    HalfWidth = toEnd > toAngle ? toEnd : toAngle;
 }
 
 bool DegreeRange::Dump(HostFile& file) const
@@ -121,15 +125,15 @@ bool DegreeRange::Dump(HostFile& file) const
         center = 0.0;
         halfWidth = 0.0;
     }
-    bool centerWritten = DumpDouble(file, center);
-    bool halfWidthWritten = DumpDouble(file, halfWidth);
+    bool centerWritten = file.WriteDouble(center);
+    bool halfWidthWritten = file.WriteDouble(halfWidth);
     return centerWritten && halfWidthWritten;
 }
 
 bool DegreeRange::Load(HostFile& file)
 {
     double center = 0.0, halfWidth = 0.0;
-    if (!LoadDouble(file, center) || !LoadDouble(file, halfWidth)) {
+    if (!file.ReadDouble(center) || !file.ReadDouble(halfWidth)) {
         return false;
     }
     Center = center;

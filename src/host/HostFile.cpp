@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "catalogues/LorvString.h"
+#include "host/LittleEndian.h"
 
 namespace {
 
@@ -141,6 +142,40 @@ std::size_t HostFile::Read(void* buffer, std::size_t count)
 std::size_t HostFile::Write(const void* buffer, std::size_t count)
 {
     return pFile ? std::fwrite(buffer, 1, count, pFile) : 0;
+}
+
+bool HostFile::ReadInt32(std::int32_t& value)
+{
+    unsigned char bytes[4];
+    if (Read(bytes, sizeof bytes) != sizeof bytes) {
+        return false;
+    }
+    value = static_cast<std::int32_t>(LittleEndian::GetUInt32(bytes));
+    return true;
+}
+
+bool HostFile::WriteInt32(std::int32_t value)
+{
+    unsigned char bytes[4];
+    LittleEndian::PutUInt32(bytes, static_cast<std::uint32_t>(value));
+    return Write(bytes, sizeof bytes) == sizeof bytes;
+}
+
+bool HostFile::ReadDouble(double& value)
+{
+    unsigned char bytes[8];
+    if (Read(bytes, sizeof bytes) != sizeof bytes) {
+        return false;
+    }
+    value = LittleEndian::GetDouble(bytes);
+    return true;
+}
+
+bool HostFile::WriteDouble(double value)
+{
+    unsigned char bytes[8];
+    LittleEndian::PutDouble(bytes, value);
+    return Write(bytes, sizeof bytes) == sizeof bytes;
 }
 
 bool HostFile::Seek(long offset, SeekOrigin origin)

@@ -41,6 +41,12 @@ public:
     std::size_t Read(void* buffer, std::size_t count);
     // Writes `count` bytes; returns how many were written.
     std::size_t Write(const void* buffer, std::size_t count);
+    // Whole numbers and doubles in the byte order of the binary files (see LittleEndian);
+    // false when the file ends or the write fails.
+    bool ReadInt32(std::int32_t& value);
+    bool WriteInt32(std::int32_t value);
+    bool ReadDouble(double& value);
+    bool WriteDouble(double value);
     bool Seek(long offset, SeekOrigin origin = FromStart);
     long Tell() const;
     // The size of the open file in bytes, or -1.

@@ -332,6 +332,9 @@ std::int32_t MapWindow::LoadVisibleObjects(Transformation& t)
 
     CatalogueSet catalogues;
     catalogues.Add(AstroCatalogue::STARS);
+    if (GetConstellationSettings().ShowsAnything()) {
+        catalogues.Add(AstroCatalogue::CONSTELLATIONS);
+    }
     if (bShowPlanets) {
         catalogues.Add(AstroCatalogue::PLANETS);
     }
@@ -928,12 +931,32 @@ void MapWindow::ShowPlanets(bool show)
     }
 }
 
+void MapWindow::SetConstellationSettings(const ConstellationSettings& settings)
+{
+    ConstellationCatalogue& constellations = Collector.GetConstellationCatalogue();
+    if (settings == constellations.GetSettings()) {
+        return;
+    }
+    ShowWaitCursor();
+    constellations.UseSettings(settings);
+    constellations.Load();
+    RestoreCursor();
+    MarkAllDirty();
+    InvalidateView();
+}
+
+ConstellationSettings MapWindow::GetConstellationSettings() const
+{
+    return Collector.GetConstellationCatalogue().GetSettings();
+}
+
 void MapWindow::Copy(MapWindow& other)
 {
     SetDisplayParameters(other.Display);
     pOrientation = other.pOrientation->Clone();
     SetTime(other.Time);
     SetGridInfo(other.Grid);
+    SetConstellationSettings(other.GetConstellationSettings());
     MarkAllDirty();
     InvalidateView();
 }
@@ -995,6 +1018,7 @@ StateContainer& MapWindow::operator<<(StateContainer& sc) const
 {
     return sc << NewLevel << AstroKey("Grid") << Grid << AstroKey("Orientation Type")
               << pOrientation->GetType() << AstroKey("Orientation") << *pOrientation
+              << AstroKey("Constellations") << Collector.GetConstellationCatalogue()
               << AstroKey("Animation") << Animation << AstroKey("Time") << Time
               << AstroKey("TimeZone") << Zone << AstroKey("Show Nearest Dark Time At Startup")
               << bShowNearestDarkTime << AstroKey("Display") << Display << AstroKey("Messier")
@@ -1006,7 +1030,8 @@ StateContainer& MapWindow::operator>>(StateContainer& sc)
 {
     GridInfo grid = Grid;
     int type = 0;
-    sc >> GoToLevel >> AstroKey("Grid") >> grid >> AstroKey("Animation") >> Animation >>
+    sc >> GoToLevel >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
+        Collector.GetConstellationCatalogue() >> AstroKey("Animation") >> Animation >>
         AstroKey("Time") >> Time >> AstroKey("TimeZone") >> Zone >>
         AstroKey("Show Nearest Dark Time At Startup") >> bShowNearestDarkTime >>
         AstroKey("Display") >> Display >> AstroKey("Orientation Type") >> type >>
@@ -1023,7 +1048,8 @@ StateContainer& MapWindow::operator>>(StateContainer& sc)
 void MapWindow::SaveDefaultState(StateContainer& sc) const
 {
     sc << AstroKey("Grid") << Grid << AstroKey("Orientation Type") << pOrientation->GetType()
-       << AstroKey("Orientation") << *pOrientation << AstroKey("Animation") << Animation
+       << AstroKey("Orientation") << *pOrientation << AstroKey("Constellations")
+       << Collector.GetConstellationCatalogue() << AstroKey("Animation") << Animation
        << AstroKey("TimeZone") << Zone << AstroKey("Display") << Display << AstroKey("Messier")
        << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
        << LocationName;
@@ -1033,10 +1059,11 @@ void MapWindow::RestoreDefaultState(StateContainer& sc)
 {
     GridInfo grid = Grid;
     int type = 0;
-    sc >> AstroKey("Grid") >> grid >> AstroKey("Animation") >> Animation >> AstroKey("TimeZone") >>
-        Zone >> AstroKey("Display") >> Display >> AstroKey("Location Name") >> LocationName >>
-        AstroKey("Messier") >> bShowMessier >> AstroKey("Comets") >> bShowComets >>
-        AstroKey("Orientation Type") >> type;
+    sc >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
+        Collector.GetConstellationCatalogue() >> AstroKey("Animation") >> Animation >>
+        AstroKey("TimeZone") >> Zone >> AstroKey("Display") >> Display >>
+        AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
+        AstroKey("Comets") >> bShowComets >> AstroKey("Orientation Type") >> type;
     SetGridInfo(grid);
     ReadOrientation(sc, type);
     AfterRestore();

@@ -270,7 +270,12 @@ public:
     void ShowPlanets(bool show);
     // Redraws at once with the planets' labels as the options say.
     void SetPlanetOptions(const PlanetOptions& options);
-    // Takes the view of another map: display, a copy of its orientation, time and grid.
+    // What is shown of the constellations. A change loads what the new settings need (with
+    // the wait cursor) and redraws everything; equal settings change nothing.
+    void SetConstellationSettings(const ConstellationSettings& settings);
+    ConstellationSettings GetConstellationSettings() const;
+    // Takes the view of another map: display, a copy of its orientation, time, grid and
+    // constellation settings.
     void Copy(MapWindow& other);
 
     // A star catalogue of the user's, from text or from a star file, which every view uses

@@ -1,31 +1,7 @@
 #include "solar/CometView.h"
 
-#include "platform/TDC.h"
-#include "platform/TFont.h"
+#include "catalogues/CrossMark.h"
 #include "solar/CometList.h"
-
-namespace {
-
-constexpr const char* kMark = "X";
-
-// One font for all comets, and the offset from the top left of the letter to its middle,
-// measured at the first draw and kept for all later ones.
-struct CometMark
-{
-    TFont Font{
-        "Arial",        10, 0, 0, 0, FW_NORMAL, DEFAULT_PITCH | FF_DONTCARE, false, false, false,
-        DEFAULT_CHARSET};
-    bool bMeasured = false;
-    TPoint Offset;
-};
-
-CometMark& SharedMark()
-{
-    static CometMark mark;
-    return mark;
-}
-
-} // namespace
 
 CometView::CometView() : PlanetView(ObjectType::Comet, 0)
 {}
@@ -56,18 +32,5 @@ bool CometView::IsLabeled(const DisplayParameters& /*parameters*/) const
 
 void CometView::Draw(TDC& dc, DisplayParameters& /*parameters*/)
 {
-    CometMark& mark = SharedMark();
-    dc.SelectObject(mark.Font);
-    if (!mark.bMeasured) {
-        TEXTMETRIC metrics{};
-        dc.GetTextMetrics(metrics);
-        const TSize extent = dc.GetTextExtent(kMark);
-        mark.Offset = TPoint((extent.cx - int(metrics.tmInternalLeading)) / 2,
-                             (extent.cy - int(metrics.tmDescent)) / 2);
-        mark.bMeasured = true;
-    }
-    dc.SetTextColor(TColor::LtYellow);
-    dc.SetBkMode(TRANSPARENT);
-    dc.TextOut(displayPoint - mark.Offset, kMark);
-    dc.RestoreFont();
+    CrossMark::Draw(dc, displayPoint);
 }

@@ -189,6 +189,27 @@ TEST(DegreeRange, EncloseOfManyPointsHoldsThemAll)
     ExpectRange(range, 358.75, 13.25);
 }
 
+TEST(DegreeRange, EncloseHoldsTheFarEndWhereTheHalvingRounds)
+{
+    // The stars of a constellation's figure: halving 221.9655 + 250.7694 rounds the centre
+    // a little towards the far end.
+    DegreeRange ra;
+    for (double point : {221.9655, 248.3628, 250.7694}) {
+        DegreeAngle angle(point);
+        ra.Enclose(angle);
+    }
+    EXPECT_TRUE(Holds(ra, 221.9655));
+    EXPECT_TRUE(Holds(ra, 250.7694));
+    // A declination range that grows down from the pole keeps the pole.
+    DegreeRange dec;
+    for (double point : {88.66, 90.0, 65.4058151}) {
+        DegreeAngle angle(point);
+        dec.Enclose(angle);
+    }
+    EXPECT_TRUE(Holds(dec, 90.0));
+    EXPECT_TRUE(Holds(dec, 65.4058151));
+}
+
 TEST(DegreeRange, DumpAndLoadKeepFullEmptyAndOrdinaryRanges)
 {
     ScratchFile scratch;

@@ -182,7 +182,8 @@ protected:
 
 // The grid must not change unseen: these three views show meridians every 15 degrees and
 // parallels every 10, straight parallels across the equator, circles round the north pole
-// stopping at 80 degrees, and a hemisphere down to the south pole with its rim.
+// stopping at 80 degrees, and a hemisphere down to the south pole with its rim (with the
+// constellations' names, shown by default).
 TEST_F(RenderCommandTest, TheGridAtTheEquatorThePoleAndFortyFiveSouthMatchesItsPictures)
 {
     ExpectGolden("grid-equator-radius30", "0,0", "30");
@@ -192,7 +193,8 @@ TEST_F(RenderCommandTest, TheGridAtTheEquatorThePoleAndFortyFiveSouthMatchesItsP
 
 // The stars must not change unseen: Orion at radius 20 to magnitude 6.5 (the belt in the
 // middle, Betelgeuse up and to the left, Rigel down and to the right), and the whole northern
-// sky to magnitude 6 with the grid, the Plough and Cassiopeia either side of Polaris.
+// sky to magnitude 6 with the grid, the Plough and Cassiopeia either side of Polaris. The
+// constellations' names, shown by default, stand in orange on their points.
 TEST_F(RenderCommandTest, StarsOfOrionAndOfTheNorthernSkyMatchTheirPictures)
 {
     ExpectGolden("stars-orion-radius20", "84,0", "20", "6.5", false);
@@ -236,10 +238,11 @@ TEST_F(RenderCommandTest, TheOptionsComeAfterTheCommandString)
 {
     // A full state that hides the grid and looks elsewhere, narrowly; --grid, --center and
     // --radius win, so the grid is the one round the pole at radius 20, where no planet is.
+    // Constellation names stay shown, as they are without the state.
     const std::string state =
         "FullState=1 AstroNoxWindow=<MapWindow=<Grid=<Show=0 NumberOfRALines=24 "
-        "NumberOfDecLines=36> Orientation_Type=0 Orientation=<Base=<Radius=10> "
-        "CenterOfView=<RA=200 Dec=-60> Zenith=<RA=200 Dec=90>>>>";
+        "NumberOfDecLines=36> Constellations=<Show_Labels=1> Orientation_Type=0 "
+        "Orientation=<Base=<Radius=10> CenterOfView=<RA=200 Dec=-60> Zenith=<RA=200 Dec=90>>>>";
     const std::vector<std::string> pole = {"--size",   "800x600", "--time",   "2000-01-01 00:00",
                                            "--center", "0,90",    "--radius", "20",
                                            "--limit",  "-30"};
@@ -364,8 +367,16 @@ TEST_F(RenderCommandTest, OnADisplayTheProgramShowsTheMapInItsFrameAndEndsWhenTo
                           << "i=0\n"
                           << "while [ $i -lt 200 ] && ! xdotool search --name '^Orbiscope$' "
                              ">/dev/null 2>&1; do sleep 0.1; i=$((i+1)); done\n"
-                          << "sleep 3\n"
-                          << "xwd -root -silent | convert xwd:- png:screen.png\n"
+                          // A loaded machine may take a while over the first frame: look
+                          // each second, up to half a minute, until the red status line shows.
+                          << "i=0\n"
+                          << "while [ $i -lt 30 ]; do sleep 1; i=$((i+1))\n"
+                          << "  xwd -root -silent | convert xwd:- png:screen.png\n"
+                          << "  red=$(convert screen.png -crop 1020x14+2+2 +repage -fill black "
+                             "+opaque red -fill white -opaque red -format '%[fx:round(mean*w*h)]' "
+                             "info:)\n"
+                          << "  [ \"$red\" -gt 100 ] && break\n"
+                          << "done\n"
                           << "kill -TERM $pid\n"
                           << "wait $pid\n"
                           << "echo $? > exit.txt\n";

@@ -79,6 +79,31 @@ TEST_F(HostFileTest, ReadsWritesAndSeeksByteExact)
     EXPECT_EQ(in.Tell(), 6);
 }
 
+TEST_F(HostFileTest, NumbersGoInTheFilesByteOrderAndAShortReadFails)
+{
+    std::string path = (Dir / "numbers.bin").string();
+    {
+        HostFile out(path, HostFile::WriteNew);
+        EXPECT_TRUE(out.WriteInt32(-2));
+        EXPECT_TRUE(out.WriteDouble(101.287));
+        EXPECT_EQ(out.Write("\x01\x02", 2), 2u);
+    }
+    HostFile in(path, HostFile::ReadOnly);
+    EXPECT_EQ(in.Length(), 14);
+    unsigned char first[4] = {};
+    ASSERT_EQ(in.Read(first, 4), 4u);
+    EXPECT_EQ(first[0], 0xFE);
+    EXPECT_EQ(first[3], 0xFF);
+    ASSERT_TRUE(in.Seek(0));
+    std::int32_t whole = 0;
+    double place = 0.0;
+    EXPECT_TRUE(in.ReadInt32(whole));
+    EXPECT_EQ(whole, -2);
+    EXPECT_TRUE(in.ReadDouble(place));
+    EXPECT_EQ(place, 101.287);
+    EXPECT_FALSE(in.ReadInt32(whole)) << "two bytes are left, not four";
+}
+
 TEST_F(HostFileTest, ClosedFileAnswersQuietly)
 {
     HostFile file;

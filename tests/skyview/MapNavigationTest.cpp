@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "MarkedObject.h"
+#include "catalogues/ConstellationSettings.h"
 #include "catalogues/Star.h"
 #include "coords/AngleMath.h"
 #include "platform/Surface.h"
@@ -151,6 +152,8 @@ protected:
         Font = NewTestLabelFont();
         pHost = std::make_unique<NavigationHost>();
         Map().SetTimeZone(TimeZone());
+        // Only what a test puts on the sky lies under the pointer.
+        Map().SetConstellationSettings(ConstellationSettings(false, false, false));
     }
 
     void TearDown() override

@@ -94,7 +94,7 @@ int main(int argc, char** argv)
     HostFile file(binaryName, HostFile::ReadOnly);
     double maxMagnitude = 0.0;
     SegmentTable written;
-    if (!file.IsOpen() || !LoadDouble(file, maxMagnitude) || !written.Load(file)) {
+    if (!file.IsOpen() || !file.ReadDouble(maxMagnitude) || !written.Load(file)) {
         std::fprintf(stderr, "star_binary: cannot read back %s\n", binaryName.c_str());
         return 1;
     }
