@@ -88,6 +88,7 @@ MapWindow::~MapWindow()
     pOrientation.reset();
     pMemoryDC.reset();
     FreeDrawBitmap();
+    pCurrentConstellation = nullptr;
     pHorizonOrientation.reset();
     pDragger.reset();
     DeleteForegroundBitmap();
@@ -103,6 +104,7 @@ const TResponseRow* MapWindow::Find(const TEventInfo& event) const
         EvRow<WM_LBUTTONUP, &MapWindow::EvLButtonUp>(),
         EvRow<WM_RBUTTONDOWN, &MapWindow::EvRButtonDown>(),
         EvRow<WM_MOUSEMOVE, &MapWindow::EvMouseMove>(),
+        EvRow<WM_CHAR, &MapWindow::EvChar>(),
         EvRow<WM_ERASEBKGND, &MapWindow::EvEraseBkgnd>(),
         MsgRow<kShowStartingObjectMessage, &MapWindow::EvShowStartingObject>(),
     };

@@ -37,6 +37,7 @@
 #include "catalogues/AstroItemCollector.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/ReferenceArray.h"
+#include "catalogues/Star.h"
 #include "coords/LatLong.h"
 #include "coords/PolarCoord.h"
 #include "platform/TPoint.h"
@@ -54,6 +55,7 @@
 #include "time/TimeZone.h"
 
 class AstroObject;
+class Constellation;
 class MouseDragger;
 class PlanetOptions;
 class RotatingOrientationInfo;
@@ -232,6 +234,31 @@ public:
     void DisableMouse(bool disable) { bMouseDisabled = disable; }
     bool IsMouseDisabled() const { return bMouseDisabled; }
     const MouseDragger* GetDragger() const { return pDragger.get(); }
+    // Centres the view on a constellation and makes it the one figure lines are logged for.
+    void ShowConstellation(Constellation& c);
+    // The same by full name, without regard to case; an unknown name changes nothing.
+    void ShowConstellation(const std::string& name);
+    const Constellation* GetCurrentConstellation() const { return pCurrentConstellation; }
+
+    // Logging constellation figures, a tool for whoever draws them: stars picked one after
+    // another become the ends of figure lines, drawn in red on the screen, and are appended to
+    // the figure file ("ConstNodeFile") for the current constellation. Mode 1 logs (Escape
+    // takes the last line back); mode 2 also makes a located constellation the current one;
+    // mode 0, the map's own, leaves all of it idle.
+    void SetNodeLogMode(std::int32_t mode) { nNodeLogMode = mode; }
+    std::int32_t GetNodeLogMode() const { return nNodeLogMode; }
+    // Takes the marked star as the next end; `newLine` starts a line of its own instead of
+    // going on from the last end.
+    void LogConstellationNode(bool newLine);
+    void DisplayConstellationNodes(TDC& dc);
+    void EraseLastConstellationLine();
+    // Appends one line per pair of ends to the figure file: abbreviation, RA and Dec of both
+    // stars (degrees), their SAO numbers; then forgets them. Without a current constellation
+    // the user is told to locate one.
+    void SaveConstellationNodeInfo();
+    // Copies of the stars picked, two per line.
+    using ConstellationNodeInfo = std::vector<Star>;
+    const ConstellationNodeInfo& GetConstellationNodes() const { return ConstellationNodes; }
 
     // Message handlers.
     void EvSize(UINT sizeType, TSize& size);
@@ -243,6 +270,7 @@ public:
     void EvMouseMove(UINT keys, TPoint& point);
     void EvLButtonUp(UINT keys, TPoint& point);
     void EvRButtonDown(UINT keys, TPoint& point);
+    void EvChar(UINT key, UINT repeatCount, UINT flags);
     const TResponseRow* Find(const TEventInfo& event) const override;
 
     // Changes of the view. Each raises the flags its change needs and invalidates the window.
@@ -420,6 +448,10 @@ private:
     bool bShowComets = false;
     bool bForceReload = false;
     std::vector<TPoint> HorizonPoints;
+    ConstellationNodeInfo ConstellationNodes;
+    std::int32_t nNodeLogMode = 0;
+    // The catalogue's, which lives as long as the map.
+    Constellation* pCurrentConstellation = nullptr;
     std::string ForegroundFile;
     std::string MaskFile;
     std::unique_ptr<TBitmap> pForegroundBitmap;

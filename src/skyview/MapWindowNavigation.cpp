@@ -2,11 +2,19 @@
 // continuous scrolling, bringing a named object into view with its questions, blinking, the
 // pointer over objects, and the messages that tell the parent.
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 #include "catalogues/AstroObject.h"
+#include "catalogues/Constellation.h"
+#include "catalogues/ConstellationCatalogue.h"
+#include "catalogues/Messier.h"
+#include "catalogues/Star.h"
 #include "host/HostCursor.h"
+#include "host/HostFile.h"
+#include "host/HostProf.h"
 #include "host/HostStringTable.h"
+#include "platform/DebugStream.h"
 #include "platform/TClientDC.h"
 #include "platform/TPen.h"
 #include "platform/WindowCalls.h"
@@ -29,10 +37,15 @@ constexpr short kRisesCaption = 0x1130;
 constexpr short kNeverRisesQuestion = 0x11A8;
 constexpr short kBelowHorizonQuestion = 0x119E;
 constexpr short kBelowHorizonCaption = 0x1194;
+constexpr short kNoConstellationText = 0x10D6;
+constexpr short kConstellationLinesCaption = 0x10CC;
 
 // Offsets of the uids above AstroObject::kUidBase, by kind of object.
+constexpr std::uint32_t kFirstConstellationUid = 1;
+constexpr std::uint32_t kLastConstellationUid = 89;
 constexpr std::uint32_t kFirstMessierUid = 101;
 constexpr std::uint32_t kLastMessierUid = 210;
+constexpr std::uint32_t kMessierUidOffset = 100;
 constexpr std::uint32_t kFirstPlanetUid = 300;
 constexpr std::uint32_t kLastPlanetUid = 309;
 constexpr std::uint32_t kMoonUid = 310;
@@ -48,11 +61,8 @@ constexpr double kLabelMagnitudeMargin = 0.1;
 constexpr int kHiliteHalfWidth = 5;
 constexpr int kHiliteHalfHeight = 3;
 
-bool IsMessierUid(std::uint32_t uid)
-{
-    return uid >= AstroObject::kUidBase + kFirstMessierUid &&
-           uid <= AstroObject::kUidBase + kLastMessierUid;
-}
+// The figure file gives RA and Dec in degrees to five places.
+constexpr int kNodeDecimals = 5;
 
 } // namespace
 
@@ -144,6 +154,14 @@ void MapWindow::EvLButtonUp(UINT, TPoint& point)
     } else {
         ChangeCenterOfView(clicked);
     }
+}
+
+void MapWindow::EvChar(UINT key, UINT, UINT)
+{
+    if (key == VK_ESCAPE && nNodeLogMode == 1) {
+        EraseLastConstellationLine();
+    }
+    DefaultProcessing();
 }
 
 void MapWindow::EvRButtonDown(UINT, TPoint& point)
@@ -376,11 +394,19 @@ AstroObject* MapWindow::GetObjectFromUid(std::uint32_t uid)
     }
     const std::uint32_t offset = uid - AstroObject::kUidBase;
 
-    // Constellations (offsets 1 to 89) and Messier objects (101 to 210) come with their
-    // catalogues.
+    AstroObject* object = nullptr;
     PlanetView* view = nullptr;
     PlanetCatalogue& planets = Collector.GetPlanetCatalogue();
-    if (offset >= kFirstPlanetUid && offset <= kLastPlanetUid) {
+    if (offset >= kFirstConstellationUid && offset <= kLastConstellationUid) {
+        ConstellationCatalogue& catalogue = Collector.GetConstellationCatalogue();
+        catalogue.Load();
+        std::vector<Constellation*> constellations;
+        catalogue.GetConstellations(constellations);
+        const std::size_t index = offset - kFirstConstellationUid;
+        object = index < constellations.size() ? constellations[index] : nullptr;
+    } else if (offset >= kFirstMessierUid && offset <= kLastMessierUid) {
+        object = Collector.GetMessierCatalogue().GetObject(offset - kMessierUidOffset);
+    } else if (offset >= kFirstPlanetUid && offset <= kLastPlanetUid) {
         view = planets.GetView(offset - kFirstPlanetUid);
     } else if (offset == kSunUid) {
         view = planets.GetView(PlanetCatalogue::kSunPlace);
@@ -390,11 +416,13 @@ AstroObject* MapWindow::GetObjectFromUid(std::uint32_t uid)
         return Collector.GetStarFromSAONumber(offset - kStarUidOffset);
     }
     // The body the observer stands on cannot be shown.
-    if (!view || !view->IsVisible()) {
-        return nullptr;
+    if (view && view->IsVisible()) {
+        object = view;
     }
-    view->AddReference();
-    return view;
+    if (object) {
+        object->AddReference();
+    }
+    return object;
 }
 
 void MapWindow::ShowObject(AstroObject& o)
@@ -420,6 +448,9 @@ void MapWindow::ShowObject(AstroObject& o)
     if (!GetRotatingOrientation() || ObjectIsUp(o)) {
         ChangeCenterOfView(o.GetPosition());
         shown = true;
+        if (nNodeLogMode == 2 && o.GetType() == AstroObject::ObjectType::Constellation) {
+            pCurrentConstellation = dynamic_cast<Constellation*>(&o);
+        }
     } else {
         const std::string name =
             o.HasListName() ? o.GetListName() : getHostString(kStringTable, kThisObjectText);
@@ -470,6 +501,10 @@ void MapWindow::DisplayLabelsForObjectType(AstroObject& o)
         PlanetOptions options = Collector.GetPlanetCatalogue().GetOptions();
         options.bShowLabels = true;
         SetPlanetOptions(options);
+    } else if (o.GetType() == AstroObject::ObjectType::Constellation) {
+        ConstellationSettings settings = GetConstellationSettings();
+        settings.bShowLabels = true;
+        SetConstellationSettings(settings);
     } else if (o.GetType() == AstroObject::ObjectType::Star) {
         StarDisplayParameters stars(Display);
         stars.SetLabelType(StarDisplayParameters::kPopularNameLabels);
@@ -477,7 +512,122 @@ void MapWindow::DisplayLabelsForObjectType(AstroObject& o)
             stars.SetLimitingMagnitudeLabels(o.GetMagnitude() + kLabelMagnitudeMargin);
         }
         SetStarDisplayParameters(stars);
-    } else if (IsMessierUid(o.GetUid())) {
+    } else if (dynamic_cast<Messier*>(&o) != nullptr) {
         ShowMessierObjects(true);
     }
+}
+
+// Constellations.
+
+void MapWindow::ShowConstellation(Constellation& c)
+{
+    // The lines logged so far belong to the constellation that was current.
+    if (nNodeLogMode == 1) {
+        SaveConstellationNodeInfo();
+    }
+    pCurrentConstellation = &c;
+    ChangeCenterOfView(c.GetCenter());
+}
+
+void MapWindow::ShowConstellation(const std::string& name)
+{
+    if (Constellation* c = Collector.GetConstellationCatalogue().GetConstellation(name, false)) {
+        ShowConstellation(*c);
+    }
+}
+
+void MapWindow::LogConstellationNode(bool newLine)
+{
+    const Star* star = dynamic_cast<const Star*>(pHilitedObject);
+    if (!star) {
+        return;
+    }
+    // Ends go in pairs. An even count means the last line is complete: go on from its end
+    // unless a new line is asked for. An odd count means a line is open: a new line drops
+    // its lone start.
+    const std::size_t n = ConstellationNodes.size();
+    if (n > 0 && n % 2 == 0 && !newLine) {
+        ConstellationNodes.push_back(Star(ConstellationNodes.back()));
+    } else if (n % 2 == 1 && newLine) {
+        ConstellationNodes.pop_back();
+    }
+    ConstellationNodes.push_back(Star(*star));
+    if (HWindow) {
+        TClientDC dc(*this);
+        DisplayConstellationNodes(dc);
+    }
+}
+
+void MapWindow::DisplayConstellationNodes(TDC& dc)
+{
+    // The stars are copies without display points: they are put on the present view.
+    if (!pTransformation) {
+        return;
+    }
+    dc.SelectObject(TPen(TColor::LtRed, 1, PS_SOLID));
+    for (std::size_t i = 0; i + 1 < ConstellationNodes.size(); i += 2) {
+        TPoint from;
+        TPoint to;
+        pTransformation->Translate(ConstellationNodes[i].GetPosition(), from);
+        pTransformation->Translate(ConstellationNodes[i + 1].GetPosition(), to);
+        dc.MoveTo(from);
+        dc.LineTo(to);
+    }
+    dc.RestorePen();
+}
+
+void MapWindow::EraseLastConstellationLine()
+{
+    if (!ConstellationNodes.empty()) {
+        ConstellationNodes.pop_back();
+        if (ConstellationNodes.size() % 2 == 1) {
+            ConstellationNodes.pop_back();
+        }
+    }
+    // The lines are only on the screen: a copy of the bitmap takes them all away, and the
+    // rest are drawn again.
+    InvalidateView();
+    if (HWindow) {
+        UpdateWindow();
+        TClientDC dc(*this);
+        DisplayConstellationNodes(dc);
+    }
+}
+
+void MapWindow::SaveConstellationNodeInfo()
+{
+    if (!pCurrentConstellation) {
+        MessageBox(getHostString(kStringTable, kNoConstellationText).c_str(),
+                   getHostString(kStringTable, kConstellationLinesCaption).c_str(), MB_ICONHAND);
+        return;
+    }
+    if (ConstellationNodes.size() < 2) {
+        return;
+    }
+    // The figure file is keyed by abbreviation, so the lines appended are read back with the
+    // constellation's own.
+    const std::string path =
+        HostProfile().GetPath("Orbiscope", "ConstNodeFile", "ed:\\constnod.txt");
+    HostFile file(path, HostFile::Append);
+    if (!file.IsOpen()) {
+        dbstream << "Constellation lines: cannot open " << path << dbendl;
+        return;
+    }
+    const std::string abbreviation = pCurrentConstellation->GetAbbreviation();
+    for (std::size_t i = 0; i + 1 < ConstellationNodes.size(); i += 2) {
+        const Star& first = ConstellationNodes[i];
+        const Star& second = ConstellationNodes[i + 1];
+        char line[160];
+        const int length =
+            std::snprintf(line, sizeof line, "%s,%.*f,%.*f,%.*f,%.*f,%u,%u\n", abbreviation.c_str(),
+                          kNodeDecimals, first.GetPosition().GetRA().GetDegrees(), kNodeDecimals,
+                          first.GetPosition().GetDec().GetDegrees(), kNodeDecimals,
+                          second.GetPosition().GetRA().GetDegrees(), kNodeDecimals,
+                          second.GetPosition().GetDec().GetDegrees(),
+                          unsigned(first.GetSAONumber()), unsigned(second.GetSAONumber()));
+        if (length > 0) {
+            file.Write(line, std::min(std::size_t(length), sizeof line - 1));
+        }
+    }
+    ConstellationNodes.clear();
 }

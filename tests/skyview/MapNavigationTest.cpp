@@ -3,6 +3,7 @@
 // an object with the questions it brings, and the messages the parent hears.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <memory>
@@ -10,9 +11,11 @@
 #include <vector>
 
 #include "MarkedObject.h"
+#include "catalogues/Constellation.h"
 #include "catalogues/ConstellationSettings.h"
 #include "catalogues/Star.h"
 #include "coords/AngleMath.h"
+#include "host/ScopedHome.h"
 #include "platform/Surface.h"
 #include "platform/TDC.h"
 #include "platform/TMemoryDC.h"
@@ -714,12 +717,169 @@ TEST_F(MapNavigationTest, AUidFindsThePlanetsTheSunTheMoonAndTheStars)
     EXPECT_NEAR(sirius->GetPosition().GetRA().GetDegrees(), 101.29, 0.05);
     sirius->ReleaseReference();
 
-    // Below the base, the Earth we stand on, no kind of object, a star no file has, and the
-    // catalogues that are not there.
-    for (std::uint32_t uid : {base - 1, base + 302, base + 0, base + 250, base + 1000,
-                              base + 259998, base + 1000 + 259996, base + 5, base + 131}) {
+    // A constellation by its place in the table of names, a Messier object by its number.
+    AstroObject* aquila = Map().GetObjectFromUid(base + 5);
+    ASSERT_NE(aquila, nullptr);
+    EXPECT_EQ(aquila->GetListName(), "Aquila");
+    AstroObject* m31 = Map().GetObjectFromUid(base + 131);
+    ASSERT_NE(m31, nullptr);
+    EXPECT_EQ(m31->GetUid(), base + 131);
+    AstroObject* m110 = Map().GetObjectFromUid(base + 210);
+    ASSERT_NE(m110, nullptr);
+    for (AstroObject* o : {aquila, m31, m110}) {
+        EXPECT_EQ(o->GetReferenceCount(), 2);
+        o->ReleaseReference();
+    }
+
+    // Below the base, the Earth we stand on, offsets of no kind of object or beyond the
+    // catalogues, and a star no file has.
+    for (std::uint32_t uid : {base - 1, base + 302, base + 0, base + 89, base + 100, base + 250,
+                              base + 1000, base + 259998, base + 1000 + 259996}) {
         EXPECT_EQ(Map().GetObjectFromUid(uid), nullptr) << uid - base;
     }
+}
+
+TEST_F(MapNavigationTest, LocatingAConstellationOrAMessierObjectTurnsOnTheirLabelsAndMarks)
+{
+    OpenOnOrion();
+    AstroObject* orion = Map().GetObjectFromUid(AstroObject::kUidBase + 0x3C);
+    ASSERT_NE(orion, nullptr);
+    ASSERT_EQ(orion->GetListName(), "Orion");
+    Map().ShowObject(*orion);
+    EXPECT_TRUE(Map().GetConstellationSettings().bShowLabels);
+    EXPECT_FALSE(Map().GetConstellationSettings().bShowFigures);
+    EXPECT_EQ(Map().GetCurrentConstellation(), nullptr) << "only the logging mode 2 keeps it";
+    Map().SetNodeLogMode(2);
+    Map().ShowObject(*orion);
+    EXPECT_EQ(Map().GetCurrentConstellation(), orion);
+    orion->ReleaseReference();
+
+    AstroObject* m42 = Map().GetObjectFromUid(AstroObject::kUidBase + 142);
+    ASSERT_NE(m42, nullptr);
+    Map().ShowObject(*m42);
+    EXPECT_TRUE(Map().IsShowingMessier());
+    Pump();
+    EXPECT_LT(Apart(Map().GetOrientation().GetCenterOfView(), m42->GetPosition()), 1e-9);
+    m42->ReleaseReference();
+}
+
+// Constellations and their figure lines.
+
+TEST_F(MapNavigationTest, AConstellationIsShownByItsNameWhateverTheCase)
+{
+    OpenOnOrion();
+    const PolarCoord centre = Map().GetOrientation().GetCenterOfView();
+    Map().ShowConstellation("NO SUCH CONSTELLATION");
+    EXPECT_EQ(Map().GetOrientation().GetCenterOfView(), centre);
+    EXPECT_EQ(Map().GetCurrentConstellation(), nullptr);
+
+    Map().ShowConstellation("ursa major");
+    ASSERT_NE(Map().GetCurrentConstellation(), nullptr);
+    EXPECT_EQ(Map().GetCurrentConstellation()->GetName(), "Ursa Major");
+    EXPECT_LT(Apart(Map().GetOrientation().GetCenterOfView(),
+                    Map().GetCurrentConstellation()->GetCenter()),
+              1e-9);
+}
+
+TEST_F(MapNavigationTest, FigureLinesAreLoggedInPairsDrawnAndTakenBackWithEscape)
+{
+    OpenOnOrion();
+    Star betelgeuse(113271, 0.5, PolarCoord(88.79, 7.41), "Betelgeuse");
+    Star bellatrix(112740, 1.6, PolarCoord(81.28, 6.35), "Bellatrix");
+    Star rigel(131907, 0.1, PolarCoord(78.63, -8.20), "Rigel");
+    Star saiph(132542, 2.1, PolarCoord(86.94, -9.67), "Saiph");
+    auto log = [this](Star& star, bool newLine) {
+        Map().SetHilitedObject(star);
+        Map().LogConstellationNode(newLine);
+    };
+    auto sao = [this](std::size_t i) { return Map().GetConstellationNodes()[i].GetSAONumber(); };
+
+    // Nothing happens in any mode while the mark is on no star.
+    Map().LogConstellationNode(false);
+    EXPECT_TRUE(Map().GetConstellationNodes().empty());
+
+    log(betelgeuse, false);
+    log(bellatrix, false);
+    // A third star goes on from the last end: Bellatrix to Rigel.
+    log(rigel, false);
+    ASSERT_EQ(Map().GetConstellationNodes().size(), 4u);
+    EXPECT_EQ(sao(2), 112740u);
+    EXPECT_EQ(sao(3), 131907u);
+    // A new line starts at Saiph; a second new line drops that lone start.
+    log(saiph, true);
+    EXPECT_EQ(Map().GetConstellationNodes().size(), 5u);
+    log(betelgeuse, true);
+    ASSERT_EQ(Map().GetConstellationNodes().size(), 5u);
+    EXPECT_EQ(sao(4), 113271u);
+
+    // The lines are red on the screen: the middle of Betelgeuse to Bellatrix.
+    TPoint a;
+    TPoint b;
+    Map().GetTransformation()->Translate(betelgeuse.GetPosition(), a);
+    Map().GetTransformation()->Translate(bellatrix.GetPosition(), b);
+    const TPoint middle((a.x + b.x) / 2, (a.y + b.y) / 2);
+    auto isRed = [this](const TPoint& p) {
+        for (int dy = -1; dy <= 1; ++dy) {
+            if (Screen()->ColorAt(p.x, p.y + dy) == TColor::LtRed.GetValue()) {
+                return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(isRed(middle));
+
+    // Escape takes back the open end and the last whole line, only in mode 1.
+    Map().SetFocus();
+    Desk().PressKey(VK_ESCAPE);
+    Pump();
+    EXPECT_EQ(Map().GetConstellationNodes().size(), 5u);
+    Map().SetNodeLogMode(1);
+    Desk().PressKey(VK_ESCAPE);
+    Pump();
+    EXPECT_EQ(Map().GetConstellationNodes().size(), 4u) << "the open end went";
+    Desk().PressKey(VK_ESCAPE);
+    Pump();
+    EXPECT_EQ(Map().GetConstellationNodes().size(), 2u) << "both ends of the last line went";
+    EXPECT_TRUE(isRed(middle)) << "the lines left are drawn again";
+}
+
+TEST_F(MapNavigationTest, FigureLinesAreAppendedToTheFigureFileOfTheCurrentConstellation)
+{
+    ScopedHome home;
+    const std::string figures = home.File("figures.txt");
+    home.WriteFile("orbiscope.ini", "[Orbiscope]\nConstNodeFile=" + figures + "\n");
+    home.WriteFile("figures.txt", "Ori,1.00000,2.00000,3.00000,4.00000,1,2\n");
+    OpenOnOrion();
+    Star betelgeuse(113271, 0.5, PolarCoord(88.79, 7.41), "Betelgeuse");
+    Star bellatrix(112740, 1.6, PolarCoord(81.28, 6.35), "Bellatrix");
+    Map().SetHilitedObject(betelgeuse);
+    Map().LogConstellationNode(false);
+    Map().SetHilitedObject(bellatrix);
+    Map().LogConstellationNode(false);
+
+    // Without a current constellation the user is told to locate one, and nothing is lost.
+    Answer(IDOK);
+    Map().SaveConstellationNodeInfo();
+    ASSERT_EQ(Asked.size(), 1u);
+    EXPECT_EQ(Asked[0].Caption, "Constellation Lines");
+    EXPECT_EQ(Asked[0].Text, "No constellation is selected. Locate a constellation first.");
+    EXPECT_EQ(Map().GetConstellationNodes().size(), 2u);
+
+    // Locating another constellation in mode 1 saves the lines of the current one first.
+    Map().ShowConstellation("Orion");
+    Map().SetNodeLogMode(1);
+    Map().ShowConstellation("Taurus");
+    EXPECT_TRUE(Map().GetConstellationNodes().empty());
+    EXPECT_EQ(home.ReadFile("figures.txt"),
+              "Ori,1.00000,2.00000,3.00000,4.00000,1,2\n"
+              "Ori,88.79000,7.41000,81.28000,6.35000,113271,112740\n");
+    // With fewer than two ends nothing is written.
+    Map().SetHilitedObject(bellatrix);
+    Map().LogConstellationNode(false);
+    Map().SaveConstellationNodeInfo();
+    EXPECT_EQ(Map().GetConstellationNodes().size(), 1u);
+    const std::string written = home.ReadFile("figures.txt");
+    EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 2);
 }
 
 // Messages to the parent.
