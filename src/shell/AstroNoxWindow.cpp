@@ -1,11 +1,17 @@
 #include "shell/AstroNoxWindow.h"
 
+#include <cstdint>
+#include <limits>
 #include <memory>
 
+#include "catalogues/AstroCatalogue.h"
+#include "catalogues/AstroItemCollector.h"
 #include "catalogues/LorvString.h"
+#include "catalogues/StringParser.h"
 #include "host/HostBezel.h"
 #include "host/HostBookmark.h"
 #include "host/HostCmdLine.h"
+#include "host/HostFile.h"
 #include "host/HostFrameAPI.h"
 #include "host/HostProf.h"
 #include "host/HostStringTable.h"
@@ -165,6 +171,68 @@ void AstroNoxWindow::HandleCommandString(const std::string& command)
     if (line.GetValue("FullState", value)) {
         CmdLineStateContainer sc(line);
         sc >> AstroKey("AstroNoxWindow") >> *this;
+    } else if (line.GetValue("stringref", value)) {
+        HandleNameRef(value);
+    } else if (line.GetValue("uid", value)) {
+        HandleUidRef(value);
+    }
+}
+
+void AstroNoxWindow::HandleNameRef(const std::string& value)
+{
+    if (!pMap || value.empty()) {
+        return;
+    }
+    StringParser parser(value, ",", true);
+    const LorvString* token = parser.GetNextToken();
+    if (!token) {
+        return;
+    }
+    // The parser holds one token at a time.
+    const std::string word = *token;
+    token = parser.GetNextToken();
+    if (!token || token->empty()) {
+        return;
+    }
+    const std::string name = *token;
+
+    AstroItemCollector& collector = pMap->GetCollector();
+    AstroCatalogue* catalogue = nullptr;
+    if (EqualNoCase(word, "Constellation")) {
+        catalogue = &collector.GetConstellationCatalogue();
+    } else if (EqualNoCase(word, "Star")) {
+        catalogue = collector.GetStarCatalogue();
+    } else if (EqualNoCase(word, "Planet")) {
+        catalogue = &collector.GetPlanetCatalogue();
+    } else if (EqualNoCase(word, "Messier")) {
+        catalogue = &collector.GetMessierCatalogue();
+    }
+    if (!catalogue) {
+        return;
+    }
+    const std::unique_ptr<PointerVector<AstroObject>> objects = catalogue->GetListOfNamedObjects();
+    if (!objects) {
+        return;
+    }
+    for (AstroObject* object : *objects) {
+        if (object && EqualNoCase(object->GetRefName(), name)) {
+            pMap->ShowObject(*object);
+        }
+    }
+}
+
+void AstroNoxWindow::HandleUidRef(const std::string& value)
+{
+    if (!pMap) {
+        return;
+    }
+    const long uid = hostStringToLong(value);
+    if (uid < 0 || uid > long(std::numeric_limits<std::uint32_t>::max())) {
+        return;
+    }
+    if (AstroObject* object = pMap->GetObjectFromUid(std::uint32_t(uid))) {
+        pMap->ShowObject(*object);
+        object->ReleaseReference();
     }
 }
 

@@ -8,7 +8,10 @@
 // Command strings are key=value parameters. The first of these forms present is acted on:
 //   FullState=...        the whole view: AstroNoxWindow=<MapWindow=<...> ...>, as a bookmark
 //                        holds it (the key's value does not matter)
-// A string with none of them does nothing.
+//   stringref=Word,Name  an object to show, by catalogue word (Constellation, Star, Planet or
+//                        Messier) and reference name, as an article's link holds it
+//   uid=Number           an object to show, by uid (decimal or 0x hexadecimal)
+// A string with none of them does nothing, and so does a reference that names nothing.
 //
 // The default state lies in the settings store below StateRoot, in the subkey "Default":
 // "SOFTWARE\<ProductGroup>\<Name>\<Version>\orbiscope" from section "Version" of the profile.
@@ -47,6 +50,11 @@ public:
 
     // Acts on a command string as told above.
     void HandleCommandString(const std::string& command);
+    // Shows every object of the catalogue that the word names whose reference name is the
+    // one given (words and names without regard to case); the last stays in view.
+    void HandleNameRef(const std::string& value);
+    // Shows the object of the uid.
+    void HandleUidRef(const std::string& value);
 
     // The default state. Restore is false when the settings store has none.
     bool RestoreDefaultState();

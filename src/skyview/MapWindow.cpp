@@ -24,6 +24,7 @@
 #include "projection/RotatingOrientationInfo.h"
 #include "skyview/AstroStatusWindow.h"
 #include "skyview/DrawTimeLimit.h"
+#include "skyview/MouseDragger.h"
 #include "skyview/StarDisplayParameters.h"
 #include "solar/Moon.h"
 #include "solar/PlanetCatalogue.h"
@@ -90,7 +91,9 @@ MapWindow::~MapWindow()
     pOrientation.reset();
     pMemoryDC.reset();
     FreeDrawBitmap();
+    pCurrentConstellation = nullptr;
     pHorizonOrientation.reset();
+    pDragger.reset();
     DeleteForegroundBitmap();
     pPendingCenter.reset();
 }
@@ -100,6 +103,11 @@ const TResponseRow* MapWindow::Find(const TEventInfo& event) const
     static const TResponseTable table{
         EvRow<WM_SIZE, &MapWindow::EvSize>(),
         EvRow<WM_TIMER, &MapWindow::EvTimer>(),
+        EvRow<WM_LBUTTONDOWN, &MapWindow::EvLButtonDown>(),
+        EvRow<WM_LBUTTONUP, &MapWindow::EvLButtonUp>(),
+        EvRow<WM_RBUTTONDOWN, &MapWindow::EvRButtonDown>(),
+        EvRow<WM_MOUSEMOVE, &MapWindow::EvMouseMove>(),
+        EvRow<WM_CHAR, &MapWindow::EvChar>(),
         EvRow<WM_ERASEBKGND, &MapWindow::EvEraseBkgnd>(),
         MsgRow<kShowStartingObjectMessage, &MapWindow::EvShowStartingObject>(),
     };
@@ -194,11 +202,17 @@ void MapWindow::DrawAll()
         limit.Start(DrawTimeLimit::ForScrollInterval(ScrollInfo.GetInterval()));
     }
 
-    // A map that was given no time opens at the present moment.
+    // A map that was given no time opens at the nearest dark time after the present moment.
+    // The bodies, the Earth among them, take the present moment first: the Sun's place and
+    // the zenith are asked at that time.
     if (bNearestDarkPending) {
         MakeTimeCurrent();
         Collector.GetPlanetCatalogue().SetTime(Time);
+        Time = GetNearestDarkTime();
         bNearestDarkPending = false;
+        bTimeDirty = true;
+        bStatusDirty = true;
+        Labels.SetDirty();
     }
 
     bFirstDrawPending = false;
@@ -805,17 +819,15 @@ bool MapWindow::EvEraseBkgnd(HDC)
 
 LRESULT MapWindow::EvShowStartingObject(WPARAM, LPARAM)
 {
-    if (pStartingObject) {
-        pStartingObject->SetTime(Time);
-        pStartingObject->ReleaseReference();
-        pStartingObject = nullptr;
+    // Taken off the member first: showing it may paint, and a paint would post it again.
+    AstroObject* object = pStartingObject;
+    pStartingObject = nullptr;
+    if (object) {
+        object->SetTime(Time);
+        ShowObject(*object);
+        object->ReleaseReference();
     }
     return 0;
-}
-
-void MapWindow::EvTimer(UINT)
-{
-    // The map runs no timers of its own yet.
 }
 
 // Catalogues the user loads.
@@ -967,6 +979,16 @@ void MapWindow::ShowComets(bool show)
         bShowComets = show;
         Labels.SetDirty();
         InvalidateView();
+    }
+}
+
+void MapWindow::SetPlanetOptions(const PlanetOptions& options)
+{
+    Collector.GetPlanetCatalogue().SetOptions(options);
+    Labels.SetDirty();
+    InvalidateView();
+    if (HWindow) {
+        UpdateWindow();
     }
 }
 

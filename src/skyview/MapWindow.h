@@ -9,7 +9,8 @@
 // bitmap is an 8-bit DIB section whose width is a multiple of 8, so that stars can be written
 // straight into its bits.
 //
-// DrawAll runs one fixed order of steps: the time update, a pending centre, a new
+// DrawAll runs one fixed order of steps: the move to the nearest dark time when the map was
+// asked to open there, the time update, a pending centre, a new
 // Transformation when the projection changed, the request for objects, the background, the
 // grid, the objects, the labels, the horizon, the status line. A draw is cut short only while
 // the view scrolls, by the scroll interval less 10 ms.
@@ -18,6 +19,12 @@
 // stands on the ground (a RotatingOrientationInfo) and comes within 15 degrees of it. The
 // foreground is a picture with a mask (a landscape, a window frame) that Paint merges over
 // the finished sky on every copy to the screen.
+//
+// The mouse: a left click on empty sky centres the view there and on an object opens its
+// information (a constellation's article); a right click only centres; a drag of more than 4
+// pixels draws a rubber band that zooms to its area on release. Scrolling and blinking run on
+// the map's timers 3 and 4. Named objects are brought into view by ShowObject, which asks the
+// user before it moves the time to a rising or turns the view below the horizon.
 //
 // A new map looks east from San Francisco (latitude 37.8 N, longitude 122.4 W), 30 degrees
 // above the horizon with a field radius of 20 degrees, until a view is set or restored. Angles
@@ -30,6 +37,7 @@
 #include "catalogues/AstroItemCollector.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/ReferenceArray.h"
+#include "catalogues/Star.h"
 #include "coords/LatLong.h"
 #include "coords/PolarCoord.h"
 #include "platform/TPoint.h"
@@ -52,6 +60,9 @@
 
 class AstroObject;
 class AstroStatusWindow;
+class Constellation;
+class MouseDragger;
+class PlanetOptions;
 class RotatingOrientationInfo;
 class StateContainer;
 class StarDisplayParameters;
@@ -70,6 +81,27 @@ public:
     static constexpr std::uint32_t kMaximumGridLines = 500;
     // The x of a point that lifts the pen in a grid polyline.
     static constexpr int kPenUpMarker = -1000;
+    // The message that hands a status text (a const char*) to the parent.
+    static constexpr UINT kStatusTextMessage = 0x0500;
+    // The map's timers for continuous scrolling and blinking.
+    static constexpr UINT_PTR kScrollTimer = 3;
+    static constexpr UINT_PTR kBlinkTimer = 4;
+    static constexpr UINT kBlinkInterval = 500;
+    // The pointer must move further than this (|dx| + |dy|, pixels) with the button down
+    // before a press becomes a rubber band; a band narrower or lower than kMinimumZoomSide
+    // does not zoom.
+    static constexpr int kDragThreshold = 4;
+    static constexpr int kMinimumZoomSide = 4;
+    // A rubber-band zoom never narrows the field below this radius, in degrees.
+    static constexpr double kMinimumZoomRadius = 1.0;
+    // How far from the pointer (pixels) an object still counts as under it.
+    static constexpr int kPickRadius = 10;
+    // Which crossing of the horizon a search looks for.
+    enum HorizonTypes
+    {
+        Rising = 0,
+        Setting = 1,
+    };
 
     explicit MapWindow(TWindow* parent);
     ~MapWindow() override;
@@ -143,12 +175,126 @@ public:
     void ClipAtHorizon(bool clip);
     bool IsClippedAtHorizon() const;
 
+    // Sky events, for the map's place and time.
+    //
+    // Rise and set times come from a closed solution on the sphere: the longitude under the
+    // object at the moment it crosses the horizon, then the sidereal time of that longitude
+    // at the day's midnight. Sidereal hours are taken for solar hours, so a time is late by
+    // up to four minutes; refraction, parallax and the Sun's disc are not allowed for.
+    //
+    // A view fixed on the stars stands on no ground: it has no place and no horizon to
+    // cross, so the rise and set times of such a view are the map's time unchanged.
+    //
+    // Whether `o` stands above the horizon of the view's zenith at its present position.
+    bool ObjectIsUp(const AstroObject& o) const;
+    // Whether `o` reaches above the horizon at its upper transit; also true for an object that
+    // never sets.
+    bool ObjectCanRise(const AstroObject& o) const;
+    // The next moment, at or after the map's time, at which direction `p` crosses the horizon
+    // that way; the map's time when it never does.
+    AstroTime GetHorizonTime(const PolarCoord& p, HorizonTypes type) const;
+    AstroTime GetRiseTime(const PolarCoord& p) const;
+    AstroTime GetSetTime(const PolarCoord& p) const;
+    // The rising of an object; one that moves is followed through up to three rounds, with
+    // the observer's body and the object moved to each estimate and brought back to the
+    // map's time afterwards.
+    AstroTime GetRiseTime(AstroObject& o);
+    // The map's time when the Sun is down or never sets there, else the next sunset (no
+    // twilight is allowed for).
+    AstroTime GetNearestDarkTime();
+    // Moves the time to ten minutes after the object rises and turns the view to it.
+    void ShowObjectRising(AstroObject& o);
+
+    // Navigation and selection.
+    // The sky direction under a point of the window; false before the first draw and off the
+    // projected sphere.
+    bool MapWindowPointToPolarCoord(const TPoint& point, PolarCoord& coord) const;
+    // Centres the view on the middle of the rectangle, with a field that reaches its corners.
+    void ZoomToArea(const TRect& rect);
+    // Starts moving the view continuously, one step at once and one on every tick of the
+    // scroll timer, until the orientation cannot move on or StopScrolling.
+    void Scroll(const AstroScrollInfo& info);
+    void ContinueScrolling();
+    void StopScrolling();
+    bool IsScrolling() const { return bScrolling; }
+    const AstroScrollInfo& GetScrollInfo() const { return ScrollInfo; }
+    // Brings an object into view. Before the first draw the object waits for it. An object
+    // below the horizon brings questions: to see it rise (the time moves), or, for one that
+    // never rises or when the view may sink below the horizon, to see where it is now.
+    void ShowObject(AstroObject& o);
+    // Turns on the labels of the kind of object just located.
+    void DisplayLabelsForObjectType(AstroObject& o);
+    // A click on an object: a constellation leads to its article, any other object to its
+    // information.
+    void HandleObjectSelection(AstroObject& o);
+    // Shows what is known of the object; the information dialog that does so is not part of
+    // the map yet, and until it is nothing is shown.
+    virtual void DisplayObjectInfo(AstroObject& o);
+    // Opens the object's first article through the parent.
+    void DereferenceObject(AstroObject& o);
+    // Sends the reference message with the text to the parent.
+    void GenerateReference(const std::string& reference);
+    // The object under a point: the first label that holds it, else the nearest object within
+    // kPickRadius pixels; null when there is none.
+    AstroObject* GetLinkObject(const TPoint& point);
+    // A new reference, owned by the caller, to the object of a uid; null for a uid that names
+    // nothing the map holds.
+    AstroObject* GetObjectFromUid(std::uint32_t uid);
+    // Marks the object with a small red frame on the screen; the mark of another goes.
+    void SetHilitedObject(AstroObject& o);
+    void DrawHilite(AstroObject& o);
+    const AstroObject* GetHilitedObject() const { return pHilitedObject; }
+    // Blinking every kBlinkInterval: the object, or its label, is left out every other step.
+    void BlinkObject(AstroObject& o);
+    void BlinkLabelForObject(AstroObject& o);
+    void StopBlinking();
+    const AstroObject* GetBlinkObject() const { return pBlinkObject; }
+    const AstroObject* GetBlinkLabelObject() const { return pBlinkLabelObject; }
+    bool GetBlinkPhase() const { return bBlinkPhase; }
+    // Hands a text for the status bar to the parent.
+    void ShowStatus(const std::string& text);
+    // While disabled the mouse neither moves the view nor picks objects; a click still goes to
+    // the parent when a single-click message is set.
+    void DisableMouse(bool disable) { bMouseDisabled = disable; }
+    bool IsMouseDisabled() const { return bMouseDisabled; }
+    const MouseDragger* GetDragger() const { return pDragger.get(); }
+    // Centres the view on a constellation and makes it the one figure lines are logged for.
+    void ShowConstellation(Constellation& c);
+    // The same by full name, without regard to case; an unknown name changes nothing.
+    void ShowConstellation(const std::string& name);
+    const Constellation* GetCurrentConstellation() const { return pCurrentConstellation; }
+
+    // Logging constellation figures, a tool for whoever draws them: stars picked one after
+    // another become the ends of figure lines, drawn in red on the screen, and are appended to
+    // the figure file ("ConstNodeFile") for the current constellation. Mode 1 logs (Escape
+    // takes the last line back); mode 2 also makes a located constellation the current one;
+    // mode 0, the map's own, leaves all of it idle.
+    void SetNodeLogMode(std::int32_t mode) { nNodeLogMode = mode; }
+    std::int32_t GetNodeLogMode() const { return nNodeLogMode; }
+    // Takes the marked star as the next end; `newLine` starts a line of its own instead of
+    // going on from the last end.
+    void LogConstellationNode(bool newLine);
+    void DisplayConstellationNodes(TDC& dc);
+    void EraseLastConstellationLine();
+    // Appends one line per pair of ends to the figure file: abbreviation, RA and Dec of both
+    // stars (degrees), their SAO numbers; then forgets them. Without a current constellation
+    // the user is told to locate one.
+    void SaveConstellationNodeInfo();
+    // Copies of the stars picked, two per line.
+    using ConstellationNodeInfo = std::vector<Star>;
+    const ConstellationNodeInfo& GetConstellationNodes() const { return ConstellationNodes; }
+
     // Message handlers.
     void EvSize(UINT sizeType, TSize& size);
     // The off-screen copy covers the window, so there is nothing to erase.
     bool EvEraseBkgnd(HDC dc);
     LRESULT EvShowStartingObject(WPARAM wParam, LPARAM lParam);
     void EvTimer(UINT id);
+    void EvLButtonDown(UINT keys, TPoint& point);
+    void EvMouseMove(UINT keys, TPoint& point);
+    void EvLButtonUp(UINT keys, TPoint& point);
+    void EvRButtonDown(UINT keys, TPoint& point);
+    void EvChar(UINT key, UINT repeatCount, UINT flags);
     const TResponseRow* Find(const TEventInfo& event) const override;
 
     // Changes of the view. Each raises the flags its change needs and invalidates the window.
@@ -174,6 +320,8 @@ public:
     void ShowMessierObjects(bool show);
     void ShowComets(bool show);
     void ShowPlanets(bool show);
+    // Redraws at once with the planets' labels as the options say.
+    void SetPlanetOptions(const PlanetOptions& options);
     // What is shown of the constellations. A change loads what the new settings need (with
     // the wait cursor) and redraws everything; equal settings change nothing.
     void SetConstellationSettings(const ConstellationSettings& settings);
@@ -203,11 +351,15 @@ public:
     void SaveDefaultState(StateContainer& sc) const;
     void RestoreDefaultState(StateContainer& sc);
 
-    // Messages to the parent: an object's article reference, and a new projection.
+    // Messages to the parent: an object's article reference (a std::string*, sent), a new
+    // projection (posted), and a click (a PolarCoord*, sent, in place of the map's own click
+    // handling). 0 sends nothing.
     void SetReferenceMessage(UINT message) { nReferenceMessage = message; }
     void SetFieldChangeMessage(UINT message) { nFieldChangeMessage = message; }
+    void SetSingleClickMessage(UINT message) { nSingleClickMessage = message; }
     UINT GetReferenceMessage() const { return nReferenceMessage; }
     UINT GetFieldChangeMessage() const { return nFieldChangeMessage; }
+    UINT GetSingleClickMessage() const { return nSingleClickMessage; }
 
     // What the map holds.
     const AstroTime& GetTime() const { return Time; }
@@ -270,6 +422,11 @@ private:
     // Brings the Earth, the Sun and the Moon to the map's time, which the planets' request
     // does only while planets are shown, and fills the Moon block.
     void TellMoonItem();
+    // Asks the user a yes-no question; true for yes.
+    bool AskYesNo(const std::string& text, const std::string& caption);
+    // Redraws the frame at once although nothing in the view changed (a blink step, the end of
+    // a scroll): the status flag is the cheapest one that makes the paint draw.
+    void RedrawNow();
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};
@@ -295,6 +452,7 @@ private:
     std::uint32_t nWaitCursors = 0;
     UINT nReferenceMessage = 0;
     UINT nFieldChangeMessage = 0;
+    UINT nSingleClickMessage = 0;
     std::unique_ptr<Transformation> pTransformation;
     bool bMilitaryTime = false;
     AstroTime Time;
@@ -304,11 +462,15 @@ private:
     GridInfo Grid;
     LabelManager Labels;
     AstroStatusWindow* pStatusWindow = nullptr;
-    AstroObject* pHilitedObject = nullptr;
     PositionStatusItem PointerItem{"Pointer Position: "};
     TimeStatusItem TimeItem;
     MoonStatusItem MoonItem;
     OrientationStatusItem OrientationItem;
+    // The object marked on the screen; it lives as long as the visible list.
+    AstroObject* pHilitedObject = nullptr;
+    // Where the left button went down, and the rubber band once the pointer moved away.
+    TPoint DragStart;
+    std::unique_ptr<MouseDragger> pDragger;
     bool bStatusDirty = true;
     std::string StatusText;
     TRect StatusRect;
@@ -318,6 +480,10 @@ private:
     bool bShowComets = false;
     bool bForceReload = false;
     std::vector<TPoint> HorizonPoints;
+    ConstellationNodeInfo ConstellationNodes;
+    std::int32_t nNodeLogMode = 0;
+    // The catalogue's, which lives as long as the map.
+    Constellation* pCurrentConstellation = nullptr;
     std::string ForegroundFile;
     std::string MaskFile;
     std::unique_ptr<TBitmap> pForegroundBitmap;
@@ -326,10 +492,13 @@ private:
     // A missing or unreadable picture of the present setting was told on dbstream.
     bool bForegroundProblemTold = false;
     bool bShowPlanets = true;
+    bool bMouseDisabled = false;
     std::string LocationName;
     // The name of the object last brought into view; empty after the view moved freely.
     std::string LastTargetName;
+    // Compared with the drawn objects, never followed: the caller keeps them alive.
     AstroObject* pBlinkObject = nullptr;
+    AstroObject* pBlinkLabelObject = nullptr;
     bool bBlinkPhase = false;
 
     // Guards Paint against re-entry, for every map of the process (a preview's too).
