@@ -197,6 +197,7 @@ void MapWindow::ZoomToArea(const TRect& rect)
 
     pOrientation->SetFieldRadius(radius);
     pOrientation->SetCenterOfView(middle);
+    OrientationItem.Set(*pOrientation);
     // The view moved freely: a bookmark is titled by its coordinates.
     LastTargetName.clear();
     MarkAllDirty();
@@ -219,6 +220,7 @@ void MapWindow::Scroll(const AstroScrollInfo& info)
 void MapWindow::ContinueScrolling()
 {
     if (pOrientation->Scroll(ScrollInfo)) {
+        OrientationItem.Set(*pOrientation);
         bTransformationDirty = true;
         bGridDirty = true;
         InvalidateView();

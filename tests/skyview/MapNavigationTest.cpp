@@ -25,6 +25,7 @@
 #include "projection/RotatingOrientationInfo.h"
 #include "skyview/MapWindow.h"
 #include "skyview/MouseDragger.h"
+#include "skyview/OrientationStatusItem.h"
 #include "solar/PlanetCatalogue.h"
 #include "time/TimeStep.h"
 #include "windows/HeadlessFixture.h"
@@ -214,6 +215,17 @@ protected:
         Map().SetStarDisplayParameters(none);
     }
 
+    // All lines of the status panel's orientation block, one after another.
+    std::string OrientationText()
+    {
+        const OrientationStatusItem& item = Map().GetOrientationItem();
+        std::string text;
+        for (std::size_t i = 0; i < item.GetLineCount(); ++i) {
+            text += item.GetLine(i) + "\n";
+        }
+        return text;
+    }
+
     PolarCoord SkyAt(const TPoint& point)
     {
         PolarCoord sky;
@@ -301,9 +313,11 @@ TEST_F(MapNavigationTest, ARubberBandShowsWhileDraggedAndZoomsToItsArea)
     EXPECT_EQ(Screen()->ColorAt(130, 90), RGB(255, 255, 255));
     EXPECT_EQ(Screen()->ColorAt(to.x + 1, to.y + 1), RGB(0, 0, 0));
 
+    const std::string shownBefore = OrientationText();
     Desk().MouseUp(Map().ClientToScreen(to));
     Pump();
     EXPECT_EQ(Map().GetDragger(), nullptr);
+    EXPECT_NE(OrientationText(), shownBefore) << "the status block tells the new field";
     EXPECT_LT(Apart(Map().GetOrientation().GetCenterOfView(), middle), 1e-9);
     EXPECT_NEAR(Map().GetOrientation().GetFieldRadius(), corner, 1e-9);
     EXPECT_EQ(Screen()->ColorAt(80, 50), RGB(0, 0, 0)) << "the new view replaces the band";
@@ -451,10 +465,12 @@ TEST_F(MapNavigationTest, WithTheMouseDisabledOnlyTheParentsClickMessageGoesOut)
 TEST_F(MapNavigationTest, ScrollingStepsAtOnceAndOnEveryTickUntilStopped)
 {
     OpenOnTheGround();
+    const std::string shownBefore = OrientationText();
     Map().Scroll(AstroScrollInfo(AstroScrollInfo::AZIMUTH_UP, 100, DegreeAngle(2.0)));
     EXPECT_TRUE(Map().IsScrolling());
     EXPECT_DOUBLE_EQ(Ground().GetZenithOffset().GetRA().GetDegrees(), 182.0);
     EXPECT_FALSE(Map().IsTransformationDirty()) << "each step is painted at once";
+    EXPECT_NE(OrientationText(), shownBefore) << "the status block follows each step";
 
     Desk().AdvanceTime(100);
     EXPECT_DOUBLE_EQ(Ground().GetZenithOffset().GetRA().GetDegrees(), 184.0);
