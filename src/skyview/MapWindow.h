@@ -83,7 +83,8 @@ public:
     static constexpr int kPenUpMarker = -1000;
     // The message that hands a status text (a const char*) to the parent.
     static constexpr UINT kStatusTextMessage = 0x0500;
-    // The map's timers for continuous scrolling and blinking.
+    // The map's timers for the time lapse, continuous scrolling and blinking.
+    static constexpr UINT_PTR kAnimationTimer = 1;
     static constexpr UINT_PTR kScrollTimer = 3;
     static constexpr UINT_PTR kBlinkTimer = 4;
     static constexpr UINT kBlinkInterval = 500;
@@ -211,6 +212,11 @@ public:
     bool MapWindowPointToPolarCoord(const TPoint& point, PolarCoord& coord) const;
     // Centres the view on the middle of the rectangle, with a field that reaches its corners.
     void ZoomToArea(const TRect& rect);
+    // Starts the time lapse: every seconds-per-step (in whole milliseconds) the time moves on
+    // by the step, through SetTime, until StopAnimating. A pace of 0 starts nothing.
+    void Animate();
+    void StopAnimating();
+    bool IsAnimating() const { return bAnimating; }
     // Starts moving the view continuously, one step at once and one on every tick of the
     // scroll timer, until the orientation cannot move on or StopScrolling.
     void Scroll(const AstroScrollInfo& info);
@@ -369,6 +375,7 @@ public:
     const DisplayParameters& GetDisplayParameters() const { return Display; }
     const OrientationInfo& GetOrientation() const { return *pOrientation; }
     const AnimationSettings& GetAnimation() const { return Animation; }
+    void SetAnimation(const AnimationSettings& settings) { Animation.Copy(settings); }
     const std::string& GetLocationName() const { return LocationName; }
     // The name of the object last brought into view, or else the centre of view as RA and Dec:
     // the title of a bookmark.
@@ -459,6 +466,7 @@ private:
     bool bShowNearestDarkTime = false;
     bool bNearestDarkPending = true;
     AnimationSettings Animation;
+    bool bAnimating = false;
     GridInfo Grid;
     LabelManager Labels;
     AstroStatusWindow* pStatusWindow = nullptr;

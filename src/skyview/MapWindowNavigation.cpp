@@ -1,9 +1,11 @@
-// MapWindow: how the user moves about the map and picks objects. Clicks, the rubber-band zoom,
-// continuous scrolling, bringing a named object into view with its questions, blinking, the
-// pointer over objects, and the messages that tell the parent.
+// MapWindow: how the user moves about the map and picks objects, and how time runs by itself.
+// Clicks, the rubber-band zoom, the time lapse, continuous scrolling, bringing a named object
+// into view with its questions, blinking, the pointer over objects, and the messages that
+// tell the parent.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 
 #include "catalogues/AstroObject.h"
 #include "catalogues/Constellation.h"
@@ -243,6 +245,15 @@ void MapWindow::StopScrolling()
 void MapWindow::EvTimer(UINT id)
 {
     switch (id) {
+    case kAnimationTimer:
+        if (bAnimating) {
+            AstroTime next = Time;
+            next += Animation.GetTimeStep();
+            SetTime(next);
+        } else {
+            KillTimer(kAnimationTimer);
+        }
+        break;
     case kScrollTimer:
         if (bScrolling) {
             ContinueScrolling();
@@ -264,6 +275,26 @@ void MapWindow::EvTimer(UINT id)
     default:
         break;
     }
+}
+
+// The time lapse.
+
+void MapWindow::Animate()
+{
+    // A pace of 0 means no lapse; a negative or absurd one from a damaged state is refused
+    // the same way rather than turned into a timer.
+    const double milliseconds = Animation.GetSecondsPerStep() * 1000.0;
+    if (!(milliseconds > 0.0) || milliseconds > double(std::numeric_limits<int>::max())) {
+        return;
+    }
+    bAnimating = true;
+    SetTimer(kAnimationTimer, std::max(1u, UINT(milliseconds)));
+}
+
+void MapWindow::StopAnimating()
+{
+    bAnimating = false;
+    KillTimer(kAnimationTimer);
 }
 
 void MapWindow::RedrawNow()

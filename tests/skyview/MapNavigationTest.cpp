@@ -27,6 +27,7 @@
 #include "skyview/MouseDragger.h"
 #include "skyview/OrientationStatusItem.h"
 #include "solar/PlanetCatalogue.h"
+#include "time/AnimationSettings.h"
 #include "time/TimeStep.h"
 #include "windows/HeadlessFixture.h"
 
@@ -907,4 +908,41 @@ TEST_F(MapNavigationTest, StatusTextsGoToTheParentAndReferencesOnlyWithAMessageN
     Map().SetReferenceMessage(0);
     Map().GenerateReference("https://example.org/article");
     EXPECT_TRUE(pHost->References.empty());
+}
+
+TEST_F(MapNavigationTest, ATimeLapseStepsTheTimeAtItsPaceUntilStopped)
+{
+    OpenOnOrion();
+    const double start = Map().GetTime().GetMJD();
+    const double fourMinutes = 4.0 / (24.0 * 60.0);
+    Map().SetAnimation(AnimationSettings(TimeStep(TimeStep::MINUTES, 4), 2.0));
+    Map().Animate();
+    EXPECT_TRUE(Map().IsAnimating());
+
+    Desk().AdvanceTime(1999);
+    EXPECT_DOUBLE_EQ(Map().GetTime().GetMJD(), start) << "nothing before the first 2 s";
+    Desk().AdvanceTime(1);
+    EXPECT_NEAR(Map().GetTime().GetMJD(), start + fourMinutes, 1e-9);
+    Desk().AdvanceTime(4000);
+    EXPECT_NEAR(Map().GetTime().GetMJD(), start + 3 * fourMinutes, 1e-9);
+    EXPECT_FALSE(Map().IsTimeDirty()) << "each step is painted";
+
+    // The time reached stays when the lapse ends.
+    Map().StopAnimating();
+    EXPECT_FALSE(Map().IsAnimating());
+    Desk().AdvanceTime(10000);
+    EXPECT_NEAR(Map().GetTime().GetMJD(), start + 3 * fourMinutes, 1e-9);
+}
+
+TEST_F(MapNavigationTest, ATimeLapseWithoutAPaceStartsNothing)
+{
+    OpenOnOrion();
+    const double start = Map().GetTime().GetMJD();
+    for (double pace : {0.0, -2.0, 1e300}) {
+        Map().SetAnimation(AnimationSettings(TimeStep(TimeStep::DAYS, 1), pace));
+        Map().Animate();
+        EXPECT_FALSE(Map().IsAnimating()) << pace;
+        Desk().AdvanceTime(100000);
+        EXPECT_DOUBLE_EQ(Map().GetTime().GetMJD(), start) << pace;
+    }
 }
