@@ -35,6 +35,7 @@
 
 class Raster;
 class Surface;
+struct TextRun;
 class TBitmap;
 class TDib;
 class TPalette;
@@ -212,6 +213,12 @@ protected:
     void SetDeviceArea(const TPoint& origin, const TRect& visible);
     // Narrows the area that can be drawn on, in device coordinates (a paint's invalid part).
     void LimitDeviceArea(const TRect& deviceRect);
+    // Draws where `other` draws: the same origin on the surface and the same area kept to.
+    void TakeDeviceArea(const TDC& other);
+    // A device that keeps the words of its text as well as the pixels says so here, and is
+    // handed each run of text after it was drawn.
+    virtual bool KeepsTextRuns() const { return false; }
+    virtual void KeepTextRun(TextRun&& run);
 
 private:
     bool IsScaled() const;
