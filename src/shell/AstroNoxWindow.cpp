@@ -12,6 +12,7 @@
 #include "platform/TBrush.h"
 #include "platform/TDC.h"
 #include "platform/TPalette.h"
+#include "skyview/AstroPrintDialog.h"
 #include "skyview/MapWindow.h"
 #include "state/CmdLineStateContainer.h"
 #include "state/RegistryStateContainer.h"
@@ -21,6 +22,8 @@ namespace {
 // The title of the component: string 1000 of the planetarium's table.
 constexpr short kStringTable = 5;
 constexpr short kTitleString = 1000;
+// The title of the print dialog.
+constexpr short kPrintTitleString = 0x0B54;
 
 // The frame's metric of the bezel round the map, and what it is without a frame.
 int BezelWidth()
@@ -73,6 +76,8 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         MsgRow<kNewBookmarkMessage, &AstroNoxWindow::WmuNewBookmark>(),
         MsgRow<kCreateBookmarkMessage, &AstroNoxWindow::WmuCreateBookmark>(),
         MsgRow<kCapabilityMessage, &AstroNoxWindow::WmuCapability>(),
+        CmRow<kPrintCommand, &AstroNoxWindow::CmPrint>(),
+        CmRow<kHostPrintCommand, &AstroNoxWindow::CmPrint>(),
     };
     const TResponseRow* row = table.Find(event);
     return row ? row : TLayoutWindow::Find(event);
@@ -248,4 +253,24 @@ StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window)
 StateContainer& operator>>(StateContainer& sc, AstroNoxWindow& window)
 {
     return window.operator>>(sc);
+}
+
+void AstroNoxWindow::CmPrint()
+{
+    bBusy = true;
+    UpdateCursor();
+    {
+        AstroPrintDialog dialog(this, pMap);
+        dialog.SetCaption(getHostString(kStringTable, kPrintTitleString));
+        if (dialog.HasPrinter()) {
+            dialog.Execute();
+        }
+    }
+    bBusy = false;
+    UpdateCursor();
+}
+
+void AstroNoxWindow::UpdateCursor()
+{
+    SetCursor(nullptr, TResId(bBusy ? IDC_WAIT : IDC_ARROW));
 }
