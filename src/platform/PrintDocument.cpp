@@ -245,8 +245,8 @@ bool PrintDocument::WritePage()
     return ok;
 }
 
-// The text over the picture: the same glyphs of the same face at the same pen positions, so
-// that it covers what the picture shows of it. `cr` counts in page pixels.
+// The text over the picture: the glyphs of the face the screen uses, at the pen positions the
+// drawing calls gave them. `cr` counts in page pixels.
 void PrintDocument::WriteText(cairo_t* cr, const TextRun& run)
 {
     cairo_font_face_t* face = pCairo->FaceFor(*run.pFont);

@@ -37,7 +37,7 @@ public:
     // Text is kept only while a page is open.
     bool KeepsText() const { return bInPage; }
     void KeepText(TextRun&& run);
-    std::size_t GetTextRunCount() const { return aText.size(); }
+    const std::vector<TextRun>& GetTextRuns() const { return aText; }
 
 private:
     struct Cairo;

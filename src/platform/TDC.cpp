@@ -697,9 +697,10 @@ bool TDC::DrawText(TPoint at, const char* text, int count, const int* dx, const 
         run.Clip = area;
     }
     for (int i = 0; i < count; ++i) {
-        raster.Mask(font->GetGlyph(BYTE(text[i]), smooth), penX, baseline, value, rgb, smooth);
         if (keep) {
             run.PenX.push_back(penX);
+        } else {
+            raster.Mask(font->GetGlyph(BYTE(text[i]), smooth), penX, baseline, value, rgb, smooth);
         }
         penX += advance(i);
     }

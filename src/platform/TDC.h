@@ -215,8 +215,9 @@ protected:
     void LimitDeviceArea(const TRect& deviceRect);
     // Draws where `other` draws: the same origin on the surface and the same area kept to.
     void TakeDeviceArea(const TDC& other);
-    // A device that keeps the words of its text as well as the pixels says so here, and is
-    // handed each run of text after it was drawn.
+    // A device that draws text as words of its own (a printed page, as text of its file)
+    // says so here; it is then handed each run of text in place of its pixels. The background
+    // of opaque text is filled all the same.
     virtual bool KeepsTextRuns() const { return false; }
     virtual void KeepTextRun(TextRun&& run);
 

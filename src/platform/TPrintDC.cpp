@@ -83,9 +83,9 @@ const std::string& TPrintDC::GetOutputFile() const
     return pDocument->GetOutputFile();
 }
 
-std::size_t TPrintDC::GetTextRunCount() const
+const std::vector<TextRun>& TPrintDC::GetTextRuns() const
 {
-    return pDocument->GetTextRunCount();
+    return pDocument->GetTextRuns();
 }
 
 bool TPrintDC::KeepsTextRuns() const

@@ -1,8 +1,10 @@
 #pragma once
 // A device context on the printer: it draws each page with the ordinary drawing calls on a
 // white page of the printer's size at its resolution (TPrinter), and at EndPage puts the page
-// into the document's PDF file: the page's pixels as a picture filling the paper, with the
-// text drawn on it laid over it as real text in the same font, place and colour.
+// into the document's PDF file: the page's pixels as a picture filling the paper, and over it
+// the page's text as real text, in the same font, place and colour as on the screen. Text is
+// kept as words only, not drawn into the pixels, so that it stays sharp however far the page
+// is zoomed; only the background of opaque text is in the picture.
 //
 // A document runs StartDoc, then per page StartPage ... EndPage, then EndDoc. Each returns a
 // number above 0, or SP_ERROR when it cannot be done (no file, a step out of order); a page
@@ -13,10 +15,12 @@
 // document on the same page.
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/TAutoDelete.h"
 #include "platform/TDC.h"
 #include "platform/TPrinter.h"
+#include "platform/TextRun.h"
 
 class PrintDocument;
 
@@ -49,8 +53,8 @@ public:
     int GetPageCount() const;
     // The file of the present or last document.
     const std::string& GetOutputFile() const;
-    // Runs of text kept on the present page.
-    std::size_t GetTextRunCount() const;
+    // The text of the present page, in the order it was drawn.
+    const std::vector<TextRun>& GetTextRuns() const;
     // The document, shared by the contexts that print it.
     const std::shared_ptr<PrintDocument>& GetDocument() const { return pDocument; }
 

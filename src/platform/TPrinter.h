@@ -1,7 +1,7 @@
 #pragma once
 // The printer of this platform: pages go into a PDF file, each drawn as a picture at the
 // printer's resolution (300 pixels per inch unless told otherwise) on A4 or Letter paper, with
-// its text laid over it as real text, so that it stays sharp when zoomed and can be searched.
+// its text over it as real text, so that it stays sharp when zoomed and can be searched.
 //
 // The print dialog starts from the process's default printer and keeps the user's choices in
 // it, so that the next print offers them again.

@@ -1,8 +1,8 @@
 #pragma once
-// A line of text as a device context drew it, in surface pixels: the font at its drawn size,
-// the characters, where each one's pen position stood on the baseline, the colour, and the part
-// of the surface it was kept inside. A device that keeps words as well as pixels (a printed
-// page) is told of each run.
+// A line of text as a device context lays it out, in surface pixels: the font at its drawn
+// size, the characters, where each one's pen position stands on the baseline, the colour, and
+// the part of the surface it is kept inside. A device that draws text as words of its own (a
+// printed page) is handed such runs in place of pixels.
 #include <memory>
 #include <string>
 #include <vector>

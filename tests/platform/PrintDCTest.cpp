@@ -192,9 +192,16 @@ TEST_F(PrintTest, APageOnA4BecomesAPdfPageWithItsPictureAndText)
         dc.SetBkMode(TRANSPARENT);
         dc.TextOut(300, 2500, std::string("Center Dec: +7\xB0 24' 25\""));
         dc.RestoreFont();
-        EXPECT_EQ(dc.GetTextRunCount(), 1u);
+        // The text is kept as words, not drawn into the page's pixels.
+        ASSERT_EQ(dc.GetTextRuns().size(), 1u);
+        const TextRun& run = dc.GetTextRuns().front();
+        EXPECT_EQ(run.PenX.front(), 300);
+        EXPECT_EQ(run.Baseline, 2500 + run.pFont->GetMetrics().tmAscent);
+        for (int x = 300; x < 1500; x += 3) {
+            ASSERT_EQ(dc.GetPixel(x, 2560), TColor(255, 255, 255)) << x;
+        }
         ASSERT_GT(dc.EndPage(), 0);
-        EXPECT_EQ(dc.GetTextRunCount(), 0u) << "the text went with its page";
+        EXPECT_TRUE(dc.GetTextRuns().empty()) << "the text went with its page";
         ASSERT_GT(dc.EndDoc(), 0);
         EXPECT_EQ(dc.GetPageCount(), 1);
     }
@@ -272,7 +279,7 @@ TEST_F(PrintTest, StepsOutOfOrderAreRefused)
     EXPECT_EQ(dc.EndPage(), SP_ERROR) << "no page yet";
     // Text outside a page is drawn but not kept.
     dc.TextOut(10, 10, std::string("stray"));
-    EXPECT_EQ(dc.GetTextRunCount(), 0u);
+    EXPECT_TRUE(dc.GetTextRuns().empty());
     ASSERT_GT(dc.StartPage(), 0);
     EXPECT_EQ(dc.StartPage(), SP_ERROR);
     EXPECT_TRUE(dc.IsInPage());

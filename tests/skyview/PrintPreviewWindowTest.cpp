@@ -179,16 +179,29 @@ TEST_F(PrintPreviewTest, APageHasTheSkyOnWhiteTheCompassAndTheHeading)
     EXPECT_GT(rim, 100);
     EXPECT_EQ(preview.GetDirection().GetZenith(), map.GetOrientation().GetZenith());
 
-    // The heading, kept as text for the PDF: five lines and the compass's four letters.
-    EXPECT_GE(dc.GetTextRunCount(), 9u);
-    int ink = 0;
+    // The heading and the compass's letters are kept as text for the PDF: the five lines in
+    // order, one under the other, in the band right of the compass.
+    const std::vector<std::string> heading = preview.MakeHeading();
     const TRect text = layout.GetTextRect();
-    for (int y = text.top; y < text.bottom; ++y) {
-        for (int x = text.left; x < text.right; ++x) {
-            ink += GetRValue(page.ColorAt(x, y)) < 128;
+    std::vector<const TextRun*> lines;
+    std::string letters;
+    for (const TextRun& run : dc.GetTextRuns()) {
+        if (run.Baseline > text.top && run.PenX.front() >= text.left) {
+            lines.push_back(&run);
+        } else if (run.Baseline > compass.top && run.PenX.front() < compass.right) {
+            letters += run.Text;
         }
     }
-    EXPECT_GT(ink, 200);
+    ASSERT_EQ(lines.size(), 5u);
+    for (std::size_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(lines[i]->Text, heading[i]);
+        EXPECT_LT(lines[i]->Baseline, text.bottom);
+        EXPECT_EQ(lines[i]->Color, RGB(0, 0, 0));
+        if (i > 0) {
+            EXPECT_GT(lines[i]->Baseline, lines[i - 1]->Baseline);
+        }
+    }
+    EXPECT_EQ(letters, "NWSE");
 
     // The map is itself again.
     EXPECT_FALSE(map.GetDisplayParameters().IsPrinting());
