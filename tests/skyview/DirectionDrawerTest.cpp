@@ -408,21 +408,4 @@ TEST_F(DirectionDrawerTest, WithoutAFontTheRimAndCrossAreDrawnButNoLetters)
     EXPECT_EQ(Page.ColorAt(CentreOf(full).x, CentreOf(full).y), kHorizon);
 }
 
-TEST_F(DirectionDrawerTest, ColoursAndTheLettersBackgroundAreTheCallers)
-{
-    Drawer.SetTextFont(Font, Dc);
-    Drawer.SetZenith(PolarCoord(100.0, 40.0));
-    Drawer.SetHorizonColor(TColor(0, 128, 0));
-    Drawer.SetTextColor(TColor(200, 0, 0));
-    Drawer.SetTextBackground(TColor(255, 255, 0));
-    Drawer.SetBackgroundMode(OPAQUE);
-    Drawer.Paint(Dc, Page.Bounds());
-    const TRect c = Drawer.GetCircleRect();
-    EXPECT_EQ(Page.ColorAt(CentreOf(c).x, c.top), RGB(0, 128, 0));
-    const TPoint n = Drawer.GetNorthPoint();
-    const TRect cell(n.x, n.y, n.x + Drawer.GetTextWidth(), n.y + Drawer.GetTextHeight());
-    EXPECT_GT(Count(RGB(255, 255, 0), cell), 10) << "an opaque background behind the letter";
-    EXPECT_GT(CountInk(RGB(200, 0, 0), cell), 5);
-}
-
 } // namespace

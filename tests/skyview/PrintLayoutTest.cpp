@@ -160,13 +160,4 @@ TEST_F(PrintLayoutTest, HeadingLinesThatDoNotFitStartAtTheTopAndAreCut)
     EXPECT_EQ(text.bottom, paper.Height());
 }
 
-TEST_F(PrintLayoutTest, NoLinesDrawNothing)
-{
-    Surface paper(200, 300, PixelFormat::Rgb32);
-    TDC dc(paper, Page(200, 300, 50));
-    Layout.LayOut(dc, Compass);
-    EXPECT_TRUE(Layout.DrawHeading(dc, {}).empty());
-    EXPECT_EQ(paper.ColorAt(150, 280), RGB(0, 0, 0)) << "the surface as it was";
-}
-
 } // namespace
