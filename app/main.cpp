@@ -2,13 +2,15 @@
 //
 //   orbiscope [COMMAND]                  the planetarium in a window on the display
 //   orbiscope render --out FILE [...]    one picture of the sky, made without a display
+//   orbiscope print --out FILE [...]     a printed star chart as a PDF, made without a display
 //   orbiscope --help | --version
 //
 // The program links nothing of the component. It loads liborbiscope.so at run time (the file
 // named by ORBISCOPE_LIBRARY, else the one beside the program, else the one of the build
 // tree), looks up the entry `orbiscope` and the host kit, makes a frame window, hands the
 // entry the frame and the command string, and runs the message loop; or, for `render`, lets
-// one frame be drawn on the headless desktop and writes the map to a PNG file.
+// one frame be drawn on the headless desktop and writes the map to a PNG file; or, for
+// `print`, prints the chart of the view there into a PDF file.
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -68,12 +70,24 @@ void PrintUsage(std::FILE* out)
         "        --grid            show the grid of right ascension and declination\n"
         "        --limit MAG       show stars down to this magnitude (default 6)\n"
         "\n"
+        "  orbiscope print --out FILE [options] [COMMAND]\n"
+        "      Prints a star chart of the view without a display into FILE as a PDF: the\n"
+        "      sky above, and below it a compass of where the view looks and a heading\n"
+        "      with the date and time, the place, the field and the centre of view.\n"
+        "      COMMAND is handed to the component first; the options apply after it.\n"
+        "        --out FILE        the PDF file to write (required)\n"
+        "        --paper a4|letter the paper (default a4)\n"
+        "        --time, --center, --location, --look, --radius, --grid, --limit\n"
+        "                          the view, as for render\n"
+        "\n"
         "  orbiscope --help       this text\n"
         "  orbiscope --version    the version\n"
         "\n"
-        "Without a display (neither DISPLAY nor WAYLAND_DISPLAY set) use render, e.g.\n"
+        "Without a display (neither DISPLAY nor WAYLAND_DISPLAY set) use render or print,\n"
+        "e.g.\n"
         "  orbiscope render --out sky.png --center 0,90 --radius 60 --grid\n"
         "  orbiscope render --out south.png --location 50,8.7 --look 180,20 --radius 40\n"
+        "  orbiscope print --out chart.pdf --paper letter --center 84,0 --radius 20\n"
         "\n"
         "The component is loaded from liborbiscope.so beside the program, or from the file\n"
         "that ORBISCOPE_LIBRARY names.\n",
@@ -277,17 +291,27 @@ bool ParsePair(const std::string& text, double& first, double& second, double fi
            second >= secondLow && second <= secondHigh;
 }
 
+// What `render` and `print` are asked to make.
 struct RenderRequest
 {
     std::string Out;
     int Width = kFrameWidth;
     int Height = kFrameHeight;
+    // For print: 0 A4, 1 Letter.
+    int Paper = 0;
     OrbiscopeView View{};
     std::string Command;
 };
 
-// Reads the options of `render`; false with a message for the user on a bad one.
-bool ParseRender(const std::vector<std::string>& args, RenderRequest& request, std::string& error)
+enum class Making
+{
+    Picture,
+    Chart,
+};
+
+// Reads the options of `render` or `print`; false with a message for the user on a bad one.
+bool ParseRequest(const std::vector<std::string>& args, Making making, RenderRequest& request,
+                  std::string& error)
 {
     std::vector<std::string> words;
     for (std::size_t i = 0; i < args.size(); ++i) {
@@ -318,13 +342,25 @@ bool ParseRender(const std::vector<std::string>& args, RenderRequest& request, s
                 error = "--out needs a file name";
                 return false;
             }
-        } else if (name == "--size") {
+        } else if (name == "--size" && making == Making::Picture) {
             if (!value(text)) {
                 return false;
             }
             if (!ParseSize(text, request.Width, request.Height)) {
                 error = "--size takes WIDTHxHEIGHT, each 1 to " + std::to_string(kLargestSide) +
                         " pixels, not \"" + text + "\"";
+                return false;
+            }
+        } else if (name == "--paper" && making == Making::Chart) {
+            if (!value(text)) {
+                return false;
+            }
+            if (text == "a4" || text == "A4") {
+                request.Paper = 0;
+            } else if (text == "letter" || text == "Letter") {
+                request.Paper = 1;
+            } else {
+                error = "--paper takes a4 or letter, not \"" + text + "\"";
                 return false;
             }
         } else if (name == "--time") {
@@ -403,7 +439,8 @@ bool ParseRender(const std::vector<std::string>& args, RenderRequest& request, s
         }
     }
     if (request.Out.empty()) {
-        error = "render needs --out FILE, the picture to write";
+        error = making == Making::Picture ? "render needs --out FILE, the picture to write"
+                                          : "print needs --out FILE, the PDF file to write";
         return false;
     }
     if (request.View.bCenter && (request.View.bLocation || request.View.bLook)) {
@@ -419,7 +456,7 @@ int Render(const std::vector<std::string>& args)
 {
     RenderRequest request;
     std::string error;
-    if (!ParseRender(args, request, error)) {
+    if (!ParseRequest(args, Making::Picture, request, error)) {
         std::fprintf(stderr, "orbiscope render: %s (see orbiscope --help)\n", error.c_str());
         return kExitUsage;
     }
@@ -459,6 +496,48 @@ int Render(const std::vector<std::string>& args)
     return status;
 }
 
+int Print(const std::vector<std::string>& args)
+{
+    RenderRequest request;
+    std::string error;
+    if (!ParseRequest(args, Making::Chart, request, error)) {
+        std::fprintf(stderr, "orbiscope print: %s (see orbiscope --help)\n", error.c_str());
+        return kExitUsage;
+    }
+    std::optional<Component> component = LoadComponent(error);
+    if (!component) {
+        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
+        return kExitFailure;
+    }
+    const OrbiscopeHostKit& kit = *component->Kit;
+    char reason[256] = {};
+    kit.OpenDesktop(0, reason, sizeof reason);
+
+    // The chart's sky has the page's shape, whatever the size of the window.
+    const std::uint32_t frame = kit.CreateFrame("Orbiscope", kFrameWidth, kFrameHeight);
+    const std::uint32_t map =
+        frame ? component->Entry(ToHandle(frame), request.Command.c_str()) : 0;
+    int status = 0;
+    if (!map) {
+        std::fprintf(stderr, "orbiscope print: the planetarium did not start\n");
+        status = kExitFailure;
+    } else {
+        kit.SetView(map, &request.View);
+        if (!kit.PrintChart(map, request.Out.c_str(), request.Paper)) {
+            std::fprintf(stderr, "orbiscope print: cannot write %s\n", request.Out.c_str());
+            status = kExitFailure;
+        } else {
+            std::printf("orbiscope: wrote %s (%s)\n", request.Out.c_str(),
+                        request.Paper == 0 ? "A4" : "Letter");
+        }
+    }
+    if (frame) {
+        kit.DestroyFrame(frame);
+    }
+    kit.CloseDesktop();
+    return status;
+}
+
 bool HasDisplay()
 {
     const char* x = std::getenv("DISPLAY");
@@ -472,8 +551,9 @@ int RunOnDisplay(const std::vector<std::string>& args)
         std::fprintf(stderr,
                      "orbiscope: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is "
                      "set).\n"
-                     "To draw the sky into a picture instead:\n"
+                     "To draw the sky into a picture or print a chart instead:\n"
                      "  orbiscope render --out sky.png\n"
+                     "  orbiscope print --out chart.pdf\n"
                      "See orbiscope --help for the view options.\n");
         return kExitFailure;
     }
@@ -523,6 +603,9 @@ int main(int argc, char** argv)
     }
     if (!args.empty() && args[0] == "render") {
         return Render(std::vector<std::string>(args.begin() + 1, args.end()));
+    }
+    if (!args.empty() && args[0] == "print") {
+        return Print(std::vector<std::string>(args.begin() + 1, args.end()));
     }
     if (!args.empty() && args[0].rfind("--", 0) == 0) {
         std::fprintf(stderr, "orbiscope: unknown option %s\n\n", args[0].c_str());

@@ -264,6 +264,7 @@ std::shared_ptr<FontInstance> FontInstance::For(const LOGFONT& font)
     }
     std::shared_ptr<FontInstance> instance(new FontInstance(std::move(impl)));
     instance->FileName = file.Path;
+    instance->nFaceIndex = file.Index;
     instance->FamilyName = file.Family;
     instance->StyleName = file.Style;
     instance->ComputeMetrics(font);
@@ -316,6 +317,8 @@ void FontInstance::ComputeMetrics(const LOGFONT& font)
             std::clamp(MulDiv(std::abs(long(font.lfWidth)), unitsPerEm, averageUnits), 1L, 4000L);
     }
     FT_Set_Pixel_Sizes(face, FT_UInt(xppem), FT_UInt(ppem));
+    nPixelsPerEm = int(ppem);
+    nXPixelsPerEm = int(xppem);
     FT_Fixed yScale = face->size->metrics.y_scale;
     FT_Fixed xScale = face->size->metrics.x_scale;
     auto scaled = [](long units, FT_Fixed scale) {
@@ -358,6 +361,11 @@ void FontInstance::ComputeMetrics(const LOGFONT& font)
     // The low bit set means variable pitch; 0x02 vector, 0x04 TrueType.
     m.tmPitchAndFamily = BYTE(family | 0x04 | 0x02 | (fixed ? 0 : 0x01));
     m.tmCharSet = ANSI_CHARSET;
+}
+
+unsigned FontInstance::GetGlyphIndex(BYTE c) const
+{
+    return unsigned(pImpl->aGlyphIndexes[c]);
 }
 
 TSize FontInstance::Extent(const char* text, int count) const

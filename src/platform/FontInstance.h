@@ -39,8 +39,17 @@ public:
     // The rendered glyph of a character, smoothed or black and white.
     const Glyph& GetGlyph(BYTE c, bool smooth) const;
 
-    // The font file in use and its family and style names, as fontconfig reports them.
+    // The face's own number of a character's glyph; 0 when the face has none.
+    unsigned GetGlyphIndex(BYTE c) const;
+    // The size the face is set to: pixels per em down and across (across differs when a width
+    // was asked for).
+    int GetPixelsPerEm() const { return nPixelsPerEm; }
+    int GetXPixelsPerEm() const { return nXPixelsPerEm; }
+
+    // The font file in use, the face's number within it, and its family and style names, as
+    // fontconfig reports them.
     const std::string& GetFileName() const { return FileName; }
+    int GetFaceIndex() const { return nFaceIndex; }
     const std::string& GetFamilyName() const { return FamilyName; }
     const std::string& GetStyleName() const { return StyleName; }
 
@@ -54,7 +63,10 @@ private:
     std::array<int, 256> aAdvances{};
     mutable std::array<std::unique_ptr<Glyph>, 256> aMonoGlyphs;
     mutable std::array<std::unique_ptr<Glyph>, 256> aSmoothGlyphs;
+    int nPixelsPerEm = 0;
+    int nXPixelsPerEm = 0;
     std::string FileName;
+    int nFaceIndex = 0;
     std::string FamilyName;
     std::string StyleName;
 };

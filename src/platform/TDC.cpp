@@ -16,6 +16,7 @@
 #include "platform/TBitmap.h"
 #include "platform/TDib.h"
 #include "platform/TPalette.h"
+#include "platform/TextRun.h"
 
 namespace {
 
@@ -290,6 +291,15 @@ void TDC::LimitDeviceArea(const TRect& deviceRect)
     TRect limit = deviceRect.OffsetBy(Origin.x, Origin.y);
     Visible = Visible ? (*Visible & limit) : limit;
 }
+
+void TDC::TakeDeviceArea(const TDC& other)
+{
+    Origin = other.Origin;
+    Visible = other.Visible;
+}
+
+void TDC::KeepTextRun(TextRun&&)
+{}
 
 TRect TDC::ToDevice(long long x1, long long y1, long long x2, long long y2) const
 {
@@ -676,9 +686,26 @@ bool TDC::DrawText(TPoint at, const char* text, int count, const int* dx, const 
     std::uint32_t value = ValueOf(TextColor);
     COLORREF rgb = pSurface->ColorForValue(value);
     int penX = at.x, baseline = at.y + metrics.tmAscent;
+    TextRun run;
+    const bool keep = KeepsTextRuns();
+    if (keep) {
+        run.pFont = IsScaled() ? pScaledFont : Font.GetInstance();
+        run.Text.assign(text, std::size_t(count));
+        run.PenX.reserve(std::size_t(count));
+        run.Baseline = baseline;
+        run.Color = rgb;
+        run.Clip = area;
+    }
     for (int i = 0; i < count; ++i) {
-        raster.Mask(font->GetGlyph(BYTE(text[i]), smooth), penX, baseline, value, rgb, smooth);
+        if (keep) {
+            run.PenX.push_back(penX);
+        } else {
+            raster.Mask(font->GetGlyph(BYTE(text[i]), smooth), penX, baseline, value, rgb, smooth);
+        }
         penX += advance(i);
+    }
+    if (keep) {
+        KeepTextRun(std::move(run));
     }
     return true;
 }

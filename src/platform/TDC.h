@@ -35,6 +35,7 @@
 
 class Raster;
 class Surface;
+struct TextRun;
 class TBitmap;
 class TDib;
 class TPalette;
@@ -212,6 +213,13 @@ protected:
     void SetDeviceArea(const TPoint& origin, const TRect& visible);
     // Narrows the area that can be drawn on, in device coordinates (a paint's invalid part).
     void LimitDeviceArea(const TRect& deviceRect);
+    // Draws where `other` draws: the same origin on the surface and the same area kept to.
+    void TakeDeviceArea(const TDC& other);
+    // A device that draws text as words of its own (a printed page, as text of its file)
+    // says so here; it is then handed each run of text in place of its pixels. The background
+    // of opaque text is filled all the same.
+    virtual bool KeepsTextRuns() const { return false; }
+    virtual void KeepTextRun(TextRun&& run);
 
 private:
     bool IsScaled() const;

@@ -40,3 +40,7 @@ function(orbiscope_e2e_needs_windemo)
   endif()
 endfunction()
 cmake_language(DEFER DIRECTORY "${CMAKE_SOURCE_DIR}" CALL orbiscope_e2e_needs_windemo)
+
+# Printed pages become PDF files through cairo, with their text in the fonts fontconfig finds.
+pkg_check_modules(ORBISCOPE_PRINTING REQUIRED IMPORTED_TARGET cairo cairo-pdf cairo-ft)
+target_link_libraries(orbiscope_core PUBLIC PkgConfig::ORBISCOPE_PRINTING)

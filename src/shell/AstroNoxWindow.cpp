@@ -19,6 +19,7 @@
 #include "platform/TDC.h"
 #include "platform/TGadgetWindowFont.h"
 #include "platform/TPalette.h"
+#include "skyview/AstroPrintDialog.h"
 #include "skyview/AstroStatusWindow.h"
 #include "skyview/MapWindow.h"
 #include "state/CmdLineStateContainer.h"
@@ -29,6 +30,8 @@ namespace {
 // The title of the component: string 1000 of the planetarium's table.
 constexpr short kStringTable = 5;
 constexpr short kTitleString = 1000;
+// The title of the print dialog.
+constexpr short kPrintTitleString = 0x0B54;
 
 // The status panel's font: 8 points, neither bold nor fixed.
 constexpr int kStatusFontPoints = 8;
@@ -88,6 +91,8 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         MsgRow<kNewBookmarkMessage, &AstroNoxWindow::WmuNewBookmark>(),
         MsgRow<kCreateBookmarkMessage, &AstroNoxWindow::WmuCreateBookmark>(),
         MsgRow<kCapabilityMessage, &AstroNoxWindow::WmuCapability>(),
+        CmRow<kPrintCommand, &AstroNoxWindow::CmPrint>(),
+        CmRow<kHostPrintCommand, &AstroNoxWindow::CmPrint>(),
     };
     const TResponseRow* row = table.Find(event);
     return row ? row : TLayoutWindow::Find(event);
@@ -378,4 +383,24 @@ StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window)
 StateContainer& operator>>(StateContainer& sc, AstroNoxWindow& window)
 {
     return window.operator>>(sc);
+}
+
+void AstroNoxWindow::CmPrint()
+{
+    bBusy = true;
+    UpdateCursor();
+    {
+        AstroPrintDialog dialog(this, pMap);
+        dialog.SetCaption(getHostString(kStringTable, kPrintTitleString));
+        if (dialog.HasPrinter()) {
+            dialog.Execute();
+        }
+    }
+    bBusy = false;
+    UpdateCursor();
+}
+
+void AstroNoxWindow::UpdateCursor()
+{
+    SetCursor(nullptr, TResId(bBusy ? IDC_WAIT : IDC_ARROW));
 }

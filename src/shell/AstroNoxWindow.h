@@ -37,6 +37,9 @@ public:
     static constexpr UINT kCreateBookmarkMessage = 0x061E;
     static constexpr UINT kReferenceMessage = 0x07E8;
     static constexpr UINT kFieldChangeMessage = 0x07EA;
+    // Commands: the component's print command, and the host's own.
+    static constexpr UINT kPrintCommand = 25006;
+    static constexpr UINT kHostPrintCommand = 7211;
     // The word of the planetarium's bookmarks and icon in the host.
     static constexpr const char* kBookmarkType = "PLNT";
 
@@ -87,6 +90,12 @@ public:
     LRESULT WmuCreateBookmark(WPARAM, LPARAM);
     // The LPARAM is a std::string* with an article reference, which goes to the host's frame.
     LRESULT WmuObjectSelected(WPARAM, LPARAM reference);
+    // Prints a star chart of the map's view: the platform's print dialog, then, unless the user
+    // cancelled there, the dialog with the chart's preview. The wait cursor shows meanwhile.
+    void CmPrint();
+    // The wait cursor while busy, the arrow otherwise.
+    void UpdateCursor();
+    bool IsBusy() const { return bBusy; }
 
     // The window's state: a level with "MapWindow", "DisplayStatusWindow" and
     // "DisplayFinderWindow".
@@ -103,6 +112,7 @@ private:
     AstroStatusWindow* pStatus = nullptr;
     std::string StateRoot;
     std::string DefaultKey = "Default";
+    bool bBusy = false;
 };
 
 StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window);

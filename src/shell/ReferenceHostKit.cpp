@@ -10,6 +10,8 @@
 #include "host/HostFrameWindow.h"
 #include "platform/PngFile.h"
 #include "platform/Surface.h"
+#include "platform/TPrintDC.h"
+#include "platform/TPrinter.h"
 #include "platform/WindowSystem.h"
 #include "platform/headless/HeadlessBackend.h"
 #include "platform/sdl/SdlBackend.h"
@@ -17,6 +19,7 @@
 #include "projection/RotatingOrientationInfo.h"
 #include "shell/AstroNoxWindow.h"
 #include "skyview/MapWindow.h"
+#include "skyview/PrintPreviewWindow.h"
 
 namespace {
 
@@ -164,6 +167,23 @@ int SaveMapPicture(std::uint32_t component, const char* path)
     return picture && SaveSurfaceAsPng(*picture, path) ? 1 : 0;
 }
 
+int PrintChart(std::uint32_t component, const char* path, int paper)
+{
+    MapWindow* map = MapOf(component);
+    if (!map || !path || !*path || (paper != 0 && paper != 1)) {
+        return 0;
+    }
+    WindowSystem::Get().ProcessAll();
+    TPrinter printer;
+    printer.SetPaper(paper == 0 ? TPrinter::Paper::A4 : TPrinter::Paper::Letter);
+    printer.SetOutputFile(path);
+    PrintPreviewWindow chart(nullptr, map, printer.MakeDC(), 1);
+    const bool printed = chart.PrintCopies();
+    // The map draws its own view again before anyone looks.
+    WindowSystem::Get().ProcessAll();
+    return printed ? 1 : 0;
+}
+
 int RunMessageLoop()
 {
     return WindowSystem::Get().Run();
@@ -191,7 +211,7 @@ void CloseDesktop()
 
 const OrbiscopeHostKit kKit{
     kOrbiscopeHostKitVersion, &OpenDesktop,    &CreateFrame,  &GetMapInset,  &SetView,
-    &SaveMapPicture,          &RunMessageLoop, &DestroyFrame, &CloseDesktop,
+    &SaveMapPicture,          &RunMessageLoop, &DestroyFrame, &CloseDesktop, &PrintChart,
 };
 
 } // namespace

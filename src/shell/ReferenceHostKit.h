@@ -6,8 +6,8 @@
 // system in the library serves both the host's frame and the component inside it. It looks
 // this table up by the name orbiscope_host_kit and calls through it: open a desktop (the
 // display, or the headless one for pictures), make a frame window, set a view on the map,
-// save the map as a picture, run the message loop. The table speaks plain C; window handles
-// are the 32-bit numbers the entry returns.
+// save the map as a picture or print it as a chart, run the message loop. The table speaks plain C;
+// window handles are the 32-bit numbers the entry returns.
 #include <cstddef>
 #include <cstdint>
 
@@ -73,9 +73,14 @@ struct OrbiscopeHostKit
     void (*DestroyFrame)(std::uint32_t frame);
     // Lets go of the display, once every frame is destroyed.
     void (*CloseDesktop)(void);
+    // Lets every waiting message and paint run, then prints a star chart of the map of a
+    // component window into a PDF file: one page, A4 when `paper` is 0 and Letter when it is
+    // 1, at 300 pixels per inch. 0 when that fails (no such window, a file that cannot be
+    // written).
+    int (*PrintChart)(std::uint32_t component, const char* path, int paper);
 };
 
-inline constexpr int kOrbiscopeHostKitVersion = 2;
+inline constexpr int kOrbiscopeHostKitVersion = 3;
 
 const OrbiscopeHostKit* orbiscope_host_kit(void);
 

@@ -1,0 +1,203 @@
+// The reference host prints without a display: `orbiscope print` writes the star chart of a
+// view into a PDF of one page of the chosen paper, with the chart's heading as text; bad
+// options and files that cannot be written are refused with a message and no file.
+//
+// The PDF is read back with poppler's pdfinfo and pdftotext. The program runs in a fresh user
+// directory with TZ=UTC, so that the heading's time does not depend on the machine.
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+extern char** environ;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome
+{
+    int nExit = -1;
+    std::string Out;
+    std::string Err;
+};
+
+std::string ReadAll(const fs::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// The standard output of a poppler tool run on a file.
+std::string Poppler(const std::string& tool, const fs::path& pdf, const std::string& after = "")
+{
+    std::string command = tool + " '" + pdf.string() + "' " + after + " 2>/dev/null";
+    std::string text;
+    if (FILE* pipe = ::popen(command.c_str(), "r")) {
+        char buffer[4096];
+        std::size_t n;
+        while ((n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0) {
+            text.append(buffer, n);
+        }
+        ::pclose(pipe);
+    }
+    return text;
+}
+
+std::string InfoLine(const std::string& info, const std::string& name)
+{
+    std::istringstream lines(info);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind(name + ":", 0) == 0) {
+            const std::size_t start = line.find_first_not_of(' ', name.size() + 1);
+            return start == std::string::npos ? std::string() : line.substr(start);
+        }
+    }
+    return std::string();
+}
+
+class PrintCommandTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (fs::temp_directory_path() / "orbiscope-printcmd-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        Dir = pattern;
+    }
+    void TearDown() override
+    {
+        std::error_code ignored;
+        fs::remove_all(Dir, ignored);
+    }
+
+    // Runs the program with `args`, without a display, in its own home and UTC.
+    Outcome Run(const std::vector<std::string>& args)
+    {
+        std::vector<std::string> env = {"ORBISCOPE_HOME=" + (Dir / "home").string(), "TZ=UTC"};
+        for (char** e = environ; *e; ++e) {
+            const std::string entry = *e;
+            const std::string name = entry.substr(0, entry.find('='));
+            if (name != "ORBISCOPE_HOME" && name != "TZ" && name != "DISPLAY" &&
+                name != "WAYLAND_DISPLAY") {
+                env.push_back(entry);
+            }
+        }
+        std::vector<std::string> argv = {ORBISCOPE_APP};
+        argv.insert(argv.end(), args.begin(), args.end());
+        std::vector<char*> cargv;
+        for (std::string& a : argv) {
+            cargv.push_back(a.data());
+        }
+        cargv.push_back(nullptr);
+        std::vector<char*> cenv;
+        for (std::string& e : env) {
+            cenv.push_back(e.data());
+        }
+        cenv.push_back(nullptr);
+
+        const fs::path out = Dir / "stdout.txt";
+        const fs::path err = Dir / "stderr.txt";
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(),
+                                         O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(),
+                                         O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        pid_t pid = 0;
+        Outcome outcome;
+        if (posix_spawnp(&pid, cargv[0], &actions, nullptr, cargv.data(), cenv.data()) == 0) {
+            int status = 0;
+            ::waitpid(pid, &status, 0);
+            outcome.nExit = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        }
+        posix_spawn_file_actions_destroy(&actions);
+        outcome.Out = ReadAll(out);
+        outcome.Err = ReadAll(err);
+        return outcome;
+    }
+
+    fs::path Dir;
+};
+
+TEST_F(PrintCommandTest, PrintsTheChartOfTheViewOnOneLetterPage)
+{
+    const fs::path chart = Dir / "orion.pdf";
+    Outcome o = Run({"print", "--out", chart.string(), "--paper", "letter", "--time",
+                     "2000-01-01 21:30", "--center", "84,0", "--radius", "20"});
+    ASSERT_EQ(o.nExit, 0) << o.Err;
+    EXPECT_NE(o.Out.find("wrote " + chart.string()), std::string::npos) << o.Out;
+
+    const std::string info = Poppler("pdfinfo", chart);
+    EXPECT_EQ(InfoLine(info, "Pages"), "1");
+    EXPECT_EQ(InfoLine(info, "Page size"), "612 x 792 pts (letter)");
+
+    const std::string text = Poppler("pdftotext", chart, "-");
+    for (const char* line : {"9:30:00pm January 1, 2000", "Minimum field Of View: 20\xC2\xB0",
+                             "Center RA: 05h 36m 00.0s", "Center Dec: + 00\xC2\xB0 00' 00.0\""}) {
+        EXPECT_NE(text.find(line), std::string::npos) << line << " in:\n" << text;
+    }
+    // The compass's letters.
+    for (const char* letter : {"N", "W", "S", "E"}) {
+        EXPECT_NE(text.find(letter), std::string::npos) << letter;
+    }
+}
+
+TEST_F(PrintCommandTest, TheViewFromTheGroundPrintsOnA4ByDefault)
+{
+    const fs::path chart = Dir / "south.pdf";
+    Outcome o = Run({"print", "--out", chart.string(), "--time", "2000-01-01 00:00", "--location",
+                     "50,8.7", "--look", "180,30", "--radius", "40"});
+    ASSERT_EQ(o.nExit, 0) << o.Err;
+    const std::string info = Poppler("pdfinfo", chart);
+    EXPECT_EQ(InfoLine(info, "Pages"), "1");
+    EXPECT_EQ(InfoLine(info, "Page size"), "595.276 x 841.89 pts (A4)");
+    EXPECT_NE(Poppler("pdftotext", chart, "-").find("Minimum field Of View: 40"),
+              std::string::npos);
+}
+
+TEST_F(PrintCommandTest, BadOptionsAndUnwritableFilesAreRefused)
+{
+    const fs::path chart = Dir / "bad.pdf";
+    struct Case
+    {
+        std::vector<std::string> Args;
+        const char* Says;
+    };
+    const std::vector<Case> cases = {
+        {{"print"}, "print needs --out FILE"},
+        {{"print", "--out", chart.string(), "--paper", "a5"}, "--paper takes a4 or letter"},
+        {{"print", "--out", chart.string(), "--size", "800x600"}, "unknown option --size"},
+        {{"print", "--out", chart.string(), "--radius", "100"}, "--radius takes degrees"},
+        {{"print", "--out", chart.string(), "--center", "0,0", "--look", "90,10"},
+         "one or the other"},
+    };
+    for (const Case& c : cases) {
+        Outcome o = Run(c.Args);
+        EXPECT_EQ(o.nExit, 2) << c.Says;
+        EXPECT_NE(o.Err.find(c.Says), std::string::npos) << o.Err;
+        EXPECT_FALSE(fs::exists(chart)) << c.Says;
+    }
+
+    const fs::path nowhere = Dir / "no" / "such" / "chart.pdf";
+    Outcome o = Run({"print", "--out", nowhere.string()});
+    EXPECT_EQ(o.nExit, 1);
+    EXPECT_NE(o.Err.find("cannot write " + nowhere.string()), std::string::npos) << o.Err;
+
+    Outcome help = Run({"--help"});
+    EXPECT_NE(help.Out.find("orbiscope print --out FILE"), std::string::npos);
+    EXPECT_NE(help.Out.find("--paper a4|letter"), std::string::npos);
+}
+
+} // namespace
