@@ -1090,7 +1090,8 @@ StateContainer& MapWindow::operator<<(StateContainer& sc) const
     return sc << NewLevel << AstroKey("Grid") << Grid << AstroKey("Orientation Type")
               << pOrientation->GetType() << AstroKey("Orientation") << *pOrientation
               << AstroKey("Constellations") << Collector.GetConstellationCatalogue()
-              << AstroKey("Animation") << Animation << AstroKey("Time") << Time
+              << AstroKey("Planets") << Collector.GetPlanetCatalogue() << AstroKey("Animation")
+              << Animation << AstroKey("Time") << Time
               << AstroKey("TimeZone") << Zone << AstroKey("Show Nearest Dark Time At Startup")
               << bShowNearestDarkTime << AstroKey("Display") << Display << AstroKey("Messier")
               << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
@@ -1102,7 +1103,8 @@ StateContainer& MapWindow::operator>>(StateContainer& sc)
     GridInfo grid = Grid;
     int type = 0;
     sc >> GoToLevel >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
-        Collector.GetConstellationCatalogue() >> AstroKey("Animation") >> Animation >>
+        Collector.GetConstellationCatalogue() >> AstroKey("Planets") >>
+        Collector.GetPlanetCatalogue() >> AstroKey("Animation") >> Animation >>
         AstroKey("Time") >> Time >> AstroKey("TimeZone") >> Zone >>
         AstroKey("Show Nearest Dark Time At Startup") >> bShowNearestDarkTime >>
         AstroKey("Display") >> Display >> AstroKey("Orientation Type") >> type >>
@@ -1120,7 +1122,8 @@ void MapWindow::SaveDefaultState(StateContainer& sc) const
 {
     sc << AstroKey("Grid") << Grid << AstroKey("Orientation Type") << pOrientation->GetType()
        << AstroKey("Orientation") << *pOrientation << AstroKey("Constellations")
-       << Collector.GetConstellationCatalogue() << AstroKey("Animation") << Animation
+       << Collector.GetConstellationCatalogue() << AstroKey("Planets")
+       << Collector.GetPlanetCatalogue() << AstroKey("Animation") << Animation
        << AstroKey("TimeZone") << Zone << AstroKey("Display") << Display << AstroKey("Messier")
        << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
        << LocationName;
@@ -1131,7 +1134,8 @@ void MapWindow::RestoreDefaultState(StateContainer& sc)
     GridInfo grid = Grid;
     int type = 0;
     sc >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
-        Collector.GetConstellationCatalogue() >> AstroKey("Animation") >> Animation >>
+        Collector.GetConstellationCatalogue() >> AstroKey("Planets") >>
+        Collector.GetPlanetCatalogue() >> AstroKey("Animation") >> Animation >>
         AstroKey("TimeZone") >> Zone >> AstroKey("Display") >> Display >>
         AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
         AstroKey("Comets") >> bShowComets >> AstroKey("Orientation Type") >> type;
