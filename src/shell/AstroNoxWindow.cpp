@@ -478,8 +478,8 @@ void AstroNoxWindow::CmSetLocation()
 
 void AstroNoxWindow::CmSetTime()
 {
-    TimeDialog dialog(DialogParent(), pMap->GetTime(), pMap->GetTimeZone(),
-                      pMap->GetLocationName(), MapLocation(*pMap));
+    TimeDialog dialog(DialogParent(), pMap->GetTime(), pMap->GetTimeZone(), pMap->GetLocationName(),
+                      MapLocation(*pMap));
     if (dialog.Execute() != IDOK) {
         return;
     }
@@ -630,16 +630,16 @@ void AstroNoxWindow::ShowObjectListDialog(AstroCatalogue::AstroCatalogues which)
 
 void AstroNoxWindow::CmLocateSun()
 {
-    if (PlanetView* sun = pMap->GetCollector().GetPlanetCatalogue().GetView(
-            PlanetCatalogue::kSunPlace)) {
+    if (PlanetView* sun =
+            pMap->GetCollector().GetPlanetCatalogue().GetView(PlanetCatalogue::kSunPlace)) {
         pMap->ShowObject(*sun);
     }
 }
 
 void AstroNoxWindow::CmLocateMoon()
 {
-    if (PlanetView* moon = pMap->GetCollector().GetPlanetCatalogue().GetView(
-            PlanetCatalogue::kMoonPlace)) {
+    if (PlanetView* moon =
+            pMap->GetCollector().GetPlanetCatalogue().GetView(PlanetCatalogue::kMoonPlace)) {
         pMap->ShowObject(*moon);
     }
 }

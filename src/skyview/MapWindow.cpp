@@ -1091,11 +1091,11 @@ StateContainer& MapWindow::operator<<(StateContainer& sc) const
               << pOrientation->GetType() << AstroKey("Orientation") << *pOrientation
               << AstroKey("Constellations") << Collector.GetConstellationCatalogue()
               << AstroKey("Planets") << Collector.GetPlanetCatalogue() << AstroKey("Animation")
-              << Animation << AstroKey("Time") << Time
-              << AstroKey("TimeZone") << Zone << AstroKey("Show Nearest Dark Time At Startup")
-              << bShowNearestDarkTime << AstroKey("Display") << Display << AstroKey("Messier")
-              << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
-              << LocationName << EndLevel;
+              << Animation << AstroKey("Time") << Time << AstroKey("TimeZone") << Zone
+              << AstroKey("Show Nearest Dark Time At Startup") << bShowNearestDarkTime
+              << AstroKey("Display") << Display << AstroKey("Messier") << bShowMessier
+              << AstroKey("Comets") << bShowComets << AstroKey("Location Name") << LocationName
+              << EndLevel;
 }
 
 StateContainer& MapWindow::operator>>(StateContainer& sc)
@@ -1104,11 +1104,10 @@ StateContainer& MapWindow::operator>>(StateContainer& sc)
     int type = 0;
     sc >> GoToLevel >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
         Collector.GetConstellationCatalogue() >> AstroKey("Planets") >>
-        Collector.GetPlanetCatalogue() >> AstroKey("Animation") >> Animation >>
-        AstroKey("Time") >> Time >> AstroKey("TimeZone") >> Zone >>
-        AstroKey("Show Nearest Dark Time At Startup") >> bShowNearestDarkTime >>
-        AstroKey("Display") >> Display >> AstroKey("Orientation Type") >> type >>
-        AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
+        Collector.GetPlanetCatalogue() >> AstroKey("Animation") >> Animation >> AstroKey("Time") >>
+        Time >> AstroKey("TimeZone") >> Zone >> AstroKey("Show Nearest Dark Time At Startup") >>
+        bShowNearestDarkTime >> AstroKey("Display") >> Display >> AstroKey("Orientation Type") >>
+        type >> AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
         AstroKey("Comets") >> bShowComets;
     SetGridInfo(grid);
     ReadOrientation(sc, type);

@@ -412,8 +412,9 @@ TEST_F(AstroNoxCommands, AnObjectChosenFromTheListIsBroughtIntoView)
     for (const auto& [command, row] : commands) {
         int selected = -1;
         Desk().AnswerNextModal([&selected](TWindow& window) {
-            selected = dynamic_cast<TComboBox*>(window.ChildWithId(ObjectListDialog::kCatalogueList))
-                           ->GetSelIndex();
+            selected =
+                dynamic_cast<TComboBox*>(window.ChildWithId(ObjectListDialog::kCatalogueList))
+                    ->GetSelIndex();
             HeadlessBackend::PressButton(window, IDOK);
         });
         Command(command);
