@@ -91,6 +91,7 @@ public:
     // The body the views are seen from: the Earth of the planet catalogue.
     SolarSystemObject* GetOrigin() const { return pOrigin; }
     PlanetCatalogue& GetPlanetCatalogue() { return Planets; }
+    const PlanetCatalogue& GetPlanetCatalogue() const { return Planets; }
     ConstellationCatalogue& GetConstellationCatalogue() { return Constellations; }
     const ConstellationCatalogue& GetConstellationCatalogue() const { return Constellations; }
     MessierCatalogue& GetMessierCatalogue() { return MessierObjects; }

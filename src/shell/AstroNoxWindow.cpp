@@ -1,13 +1,16 @@
 #include "shell/AstroNoxWindow.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <memory>
 
 #include "catalogues/AstroCatalogue.h"
 #include "catalogues/AstroItemCollector.h"
+#include "catalogues/ConstellationSettings.h"
 #include "catalogues/LorvString.h"
 #include "catalogues/StringParser.h"
+#include "catalogues/TextFile.h"
 #include "host/HostBezel.h"
 #include "host/HostBookmark.h"
 #include "host/HostCmdLine.h"
@@ -15,13 +18,25 @@
 #include "host/HostFrameAPI.h"
 #include "host/HostProf.h"
 #include "host/HostStringTable.h"
+#include "host/UserConfigDirectory.h"
 #include "platform/TBrush.h"
 #include "platform/TDC.h"
 #include "platform/TGadgetWindowFont.h"
 #include "platform/TPalette.h"
+#include "platform/WindowCalls.h"
+#include "projection/OrientationInfo.h"
+#include "projection/RotatingOrientationInfo.h"
+#include "shell/AnimationDialog.h"
+#include "shell/GridDialog.h"
+#include "shell/LocationDialog.h"
+#include "shell/ObjectListDialog.h"
+#include "shell/StopAnimationDialog.h"
+#include "shell/TimeDialog.h"
 #include "skyview/AstroPrintDialog.h"
 #include "skyview/AstroStatusWindow.h"
 #include "skyview/MapWindow.h"
+#include "solar/PlanetCatalogue.h"
+#include "solar/PlanetOptions.h"
 #include "state/CmdLineStateContainer.h"
 #include "state/RegistryStateContainer.h"
 
@@ -32,6 +47,16 @@ constexpr short kStringTable = 5;
 constexpr short kTitleString = 1000;
 // The title of the print dialog.
 constexpr short kPrintTitleString = 0x0B54;
+
+// The caption of the dialog that stands while a time lapse runs.
+constexpr short kLapseCaptionString = 0x0B18;
+
+// Zooming in takes three quarters of the field's radius, zooming out four thirds, within the
+// narrowest and the widest field the map draws, in degrees.
+constexpr double kZoomInFactor = 0.75;
+constexpr double kZoomOutFactor = 4.0 / 3.0;
+constexpr double kNarrowestField = 0.1;
+constexpr double kWidestField = 90.0;
 
 // The status panel's font: 8 points, neither bold nor fixed.
 constexpr int kStatusFontPoints = 8;
@@ -93,6 +118,30 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         MsgRow<kCapabilityMessage, &AstroNoxWindow::WmuCapability>(),
         CmRow<kPrintCommand, &AstroNoxWindow::CmPrint>(),
         CmRow<kHostPrintCommand, &AstroNoxWindow::CmPrint>(),
+        CmRow<kCmZoomIn, &AstroNoxWindow::CmZoomIn>(),
+        CmRow<kCmZoomOut, &AstroNoxWindow::CmZoomOut>(),
+        CmRow<kCmSetLocation, &AstroNoxWindow::CmSetLocation>(),
+        CmRow<kCmSetTime, &AstroNoxWindow::CmSetTime>(),
+        CmRow<kCmSetTimeLapse, &AstroNoxWindow::CmSetTimeLapse>(),
+        CmRow<kCmStartTimeLapse, &AstroNoxWindow::CmStartTimeLapse>(),
+        CmRow<kCmSkyhuntGame, &AstroNoxWindow::CmSkyhuntGame>(),
+        CmRow<kCmDisplayConstellationFigures, &AstroNoxWindow::CmDisplayConstellationFigures>(),
+        CmRow<kCmDisplayConstellationLabels, &AstroNoxWindow::CmDisplayConstellationLabels>(),
+        CmRow<kCmDisplayConstellationBoundaries,
+              &AstroNoxWindow::CmDisplayConstellationBoundaries>(),
+        CmRow<kCmDisplayPlanets, &AstroNoxWindow::CmDisplayPlanets>(),
+        CmRow<kCmDisplayComets, &AstroNoxWindow::CmDisplayComets>(),
+        CmRow<kCmDisplayRADecLines, &AstroNoxWindow::CmDisplayRADecLines>(),
+        CmRow<kCmDisplayMessierLabels, &AstroNoxWindow::CmDisplayMessierLabels>(),
+        CmRow<kCmDisplayBelowHorizon, &AstroNoxWindow::CmDisplayBelowHorizon>(),
+        CmRow<kCmLocateConstellations, &AstroNoxWindow::CmLocateConstellations>(),
+        CmRow<kCmLocatePlanets, &AstroNoxWindow::CmLocatePlanets>(),
+        CmRow<kCmLocateStars, &AstroNoxWindow::CmLocateStars>(),
+        CmRow<kCmLocateComets, &AstroNoxWindow::CmLocateComets>(),
+        CmRow<kCmLocateMessier, &AstroNoxWindow::CmLocateMessier>(),
+        CmRow<kCmLocateSun, &AstroNoxWindow::CmLocateSun>(),
+        CmRow<kCmLocateMoon, &AstroNoxWindow::CmLocateMoon>(),
+        CmRow<kCmDumpTimeZoneNames, &AstroNoxWindow::CmDumpTimeZoneNames>(),
     };
     const TResponseRow* row = table.Find(event);
     return row ? row : TLayoutWindow::Find(event);
@@ -375,6 +424,254 @@ void AstroNoxWindow::SetMessierObjectsDisplay(bool show)
     SaveAsDefaultState();
 }
 
+// Commands of the host's menu.
+
+namespace {
+
+// The place the map looks from; a view of the stars alone has none and gives 0, 0.
+LatLong MapLocation(const MapWindow& map)
+{
+    const auto* ground = dynamic_cast<const RotatingOrientationInfo*>(&map.GetOrientation());
+    return ground ? ground->GetLocation() : LatLong();
+}
+
+// A copy of the orientation with the field's radius scaled and kept within the map's bounds.
+void ScaleField(MapWindow& map, double factor)
+{
+    std::unique_ptr<OrientationInfo> o = map.GetOrientation().Clone();
+    const double radius = o->GetFieldRadius() * factor;
+    o->SetFieldRadius(std::clamp(radius, kNarrowestField, kWidestField));
+    map.SetOrientation(*o);
+}
+
+} // namespace
+
+TWindow* AstroNoxWindow::DialogParent()
+{
+    // The first start asks for the place from the constructor, before this window is shown.
+    return HWindow ? this : GetParentO();
+}
+
+void AstroNoxWindow::CmZoomIn()
+{
+    ScaleField(*pMap, kZoomInFactor);
+}
+
+void AstroNoxWindow::CmZoomOut()
+{
+    ScaleField(*pMap, kZoomOutFactor);
+}
+
+void AstroNoxWindow::CmSetLocation()
+{
+    const std::string name = pMap->GetLocationName();
+    std::unique_ptr<LocationDialog> dialog;
+    if (name.empty()) {
+        dialog = std::make_unique<LocationDialog>(DialogParent());
+    } else {
+        dialog = std::make_unique<LocationDialog>(DialogParent(), name, MapLocation(*pMap),
+                                                  pMap->GetTimeZone());
+    }
+    if (dialog->Execute() != IDOK) {
+        return;
+    }
+    pMap->SetLocation(dialog->GetLocation());
+    pMap->SetLocationName(dialog->GetLocationName());
+    pMap->SetTimeZone(dialog->GetTimeZone());
+    SaveAsDefaultState();
+}
+
+void AstroNoxWindow::CmSetTime()
+{
+    TimeDialog dialog(DialogParent(), pMap->GetTime(), pMap->GetTimeZone(), pMap->GetLocationName(),
+                      MapLocation(*pMap));
+    if (dialog.Execute() != IDOK) {
+        return;
+    }
+    pMap->SetTimeZone(dialog.GetTimeZone());
+    pMap->SetTime(dialog.GetTime());
+    pMap->SetLocation(dialog.GetLocation());
+    pMap->SetLocationName(dialog.GetLocationName());
+}
+
+void AstroNoxWindow::CmSetTimeLapse()
+{
+    AnimationDialog dialog(DialogParent(), pMap->GetAnimation());
+    const int result = dialog.Execute();
+    if (result == IDCANCEL) {
+        return;
+    }
+    pMap->SetAnimation(dialog.GetAnimationSettings());
+    if (result == AnimationDialog::kStart) {
+        StartTimeLapse();
+    }
+}
+
+void AstroNoxWindow::CmStartTimeLapse()
+{
+    StartTimeLapse();
+}
+
+void AstroNoxWindow::StartTimeLapse()
+{
+    pMap->Animate();
+    // The dialog's modal loop goes on dispatching, so the map's lapse timer ticks and the
+    // map repaints behind it for as long as it stands.
+    StopAnimationDialog dialog(DialogParent(), getHostString(kStringTable, kLapseCaptionString));
+    dialog.Execute();
+    pMap->StopAnimating();
+}
+
+void AstroNoxWindow::CmSkyhuntGame()
+{
+    HostFrameAPI* frame = getHostFrameAPI();
+    TWindow* frameWindow = frame ? frame->GetFrameWindow() : nullptr;
+    if (!frameWindow || !frameWindow->HWindow) {
+        return;
+    }
+    HostBookmark game("skyhunt");
+    frameWindow->SendMessage(kStartModuleMessage, 0, reinterpret_cast<LPARAM>(&game));
+}
+
+void AstroNoxWindow::CmDisplayRADecLines()
+{
+    GridDialog dialog(DialogParent(), pMap->GetGridInfo());
+    if (dialog.Execute() == IDOK) {
+        pMap->SetGridInfo(dialog.GetGridInfo());
+    }
+}
+
+void AstroNoxWindow::CmGridToggle()
+{
+    GridInfo grid = pMap->GetGridInfo();
+    grid.bShow = !grid.bShow;
+    pMap->SetGridInfo(grid);
+}
+
+void AstroNoxWindow::CmDisplayConstellationFigures()
+{
+    ConstellationSettings settings = pMap->GetConstellationSettings();
+    settings.bShowFigures = !settings.bShowFigures;
+    pMap->SetConstellationSettings(settings);
+    SaveAsDefaultState();
+}
+
+void AstroNoxWindow::CmDisplayConstellationLabels()
+{
+    ConstellationSettings settings = pMap->GetConstellationSettings();
+    settings.bShowLabels = !settings.bShowLabels;
+    pMap->SetConstellationSettings(settings);
+    SaveAsDefaultState();
+}
+
+void AstroNoxWindow::CmDisplayConstellationBoundaries()
+{
+    ConstellationSettings settings = pMap->GetConstellationSettings();
+    settings.bShowBoundaries = !settings.bShowBoundaries;
+    pMap->SetConstellationSettings(settings);
+    SaveAsDefaultState();
+}
+
+void AstroNoxWindow::CmDisplayPlanets()
+{
+    PlanetOptions options = pMap->GetCollector().GetPlanetCatalogue().GetOptions();
+    options.bShowLabels = !options.bShowLabels;
+    pMap->SetPlanetOptions(options);
+    SaveAsDefaultState();
+}
+
+void AstroNoxWindow::CmDisplayComets()
+{
+    pMap->ShowComets(!pMap->IsShowingComets());
+    SaveAsDefaultState();
+}
+
+void AstroNoxWindow::CmDisplayMessierLabels()
+{
+    SetMessierObjectsDisplay(!pMap->IsShowingMessier());
+}
+
+void AstroNoxWindow::CmDisplayBelowHorizon()
+{
+    pMap->ClipAtHorizon(!pMap->IsClippedAtHorizon());
+    // What lies below the horizon comes or goes with the next draw.
+    pMap->MarkAllDirty();
+    pMap->Invalidate();
+}
+
+void AstroNoxWindow::CmLocateConstellations()
+{
+    ShowObjectListDialog(AstroCatalogue::CONSTELLATIONS);
+}
+
+void AstroNoxWindow::CmLocatePlanets()
+{
+    ShowObjectListDialog(AstroCatalogue::PLANETS);
+}
+
+void AstroNoxWindow::CmLocateStars()
+{
+    ShowObjectListDialog(AstroCatalogue::STARS);
+}
+
+void AstroNoxWindow::CmLocateComets()
+{
+    ShowObjectListDialog(AstroCatalogue::COMETS);
+}
+
+void AstroNoxWindow::CmLocateMessier()
+{
+    ShowObjectListDialog(AstroCatalogue::MESSIER_OBJECTS);
+}
+
+void AstroNoxWindow::ShowObjectListDialog(AstroCatalogue::AstroCatalogues which)
+{
+    ObjectListDialog dialog(DialogParent(), pMap->GetCollector(), which);
+    // The chosen object lives in the dialog's list, so it is shown while the dialog lives.
+    if (dialog.Execute() == IDOK && dialog.GetChosenObject()) {
+        pMap->ShowObject(*dialog.GetChosenObject());
+    }
+}
+
+void AstroNoxWindow::CmLocateSun()
+{
+    if (PlanetView* sun =
+            pMap->GetCollector().GetPlanetCatalogue().GetView(PlanetCatalogue::kSunPlace)) {
+        pMap->ShowObject(*sun);
+    }
+}
+
+void AstroNoxWindow::CmLocateMoon()
+{
+    if (PlanetView* moon =
+            pMap->GetCollector().GetPlanetCatalogue().GetView(PlanetCatalogue::kMoonPlace)) {
+        pMap->ShowObject(*moon);
+    }
+}
+
+void AstroNoxWindow::CmDumpTimeZoneNames()
+{
+    const std::string directory = UserConfigDirectory(true);
+    if (directory.empty()) {
+        return;
+    }
+    TextFile file;
+    if (file.OpenForWriting((directory + "/" + kTimeZoneDumpFile).c_str())) {
+        TimeZone::PrintAllTimeZoneNames(file);
+    }
+}
+
+void AstroNoxWindow::SetBusy(bool busy)
+{
+    bBusy = busy;
+    UpdateCursor();
+}
+
+void AstroNoxWindow::UpdateCursor()
+{
+    ::SetCursor(LoadCursorA(nullptr, bBusy ? IDC_WAIT : IDC_ARROW));
+}
+
 StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window)
 {
     return window.operator<<(sc);
@@ -387,8 +684,7 @@ StateContainer& operator>>(StateContainer& sc, AstroNoxWindow& window)
 
 void AstroNoxWindow::CmPrint()
 {
-    bBusy = true;
-    UpdateCursor();
+    SetBusy(true);
     {
         AstroPrintDialog dialog(this, pMap);
         dialog.SetCaption(getHostString(kStringTable, kPrintTitleString));
@@ -396,11 +692,5 @@ void AstroNoxWindow::CmPrint()
             dialog.Execute();
         }
     }
-    bBusy = false;
-    UpdateCursor();
-}
-
-void AstroNoxWindow::UpdateCursor()
-{
-    SetCursor(nullptr, TResId(bBusy ? IDC_WAIT : IDC_ARROW));
+    SetBusy(false);
 }

@@ -19,8 +19,14 @@
 //
 // Beside the map may stand the status panel (time, orientation, Moon), a fifth of the window
 // wide at the left; a bookmark says whether it shows.
+//
+// The commands of the host's menu each end in an operation of the map or in a dialog. A
+// cancelled dialog changes nothing. The default state is written after a new place and after
+// the toggles of constellations, planet labels, comets and Messier objects; the time, the
+// grid, the time lapse and the horizon clipping are not kept.
 #include <string>
 
+#include "catalogues/AstroCatalogue.h"
 #include "platform/TLayoutWindow.h"
 
 class AstroStatusWindow;
@@ -40,6 +46,34 @@ public:
     // Commands: the component's print command, and the host's own.
     static constexpr UINT kPrintCommand = 25006;
     static constexpr UINT kHostPrintCommand = 7211;
+    // The message to the host's frame that starts another module.
+    static constexpr UINT kStartModuleMessage = 0x061A;
+    // Commands of the host's menu.
+    static constexpr UINT kCmZoomIn = 25021;
+    static constexpr UINT kCmZoomOut = 25022;
+    static constexpr UINT kCmSetLocation = 25002;
+    static constexpr UINT kCmSetTime = 25003;
+    static constexpr UINT kCmSetTimeLapse = 25004;
+    static constexpr UINT kCmStartTimeLapse = 25005;
+    static constexpr UINT kCmSkyhuntGame = 25008;
+    static constexpr UINT kCmDisplayConstellationFigures = 25024;
+    static constexpr UINT kCmDisplayConstellationLabels = 25025;
+    static constexpr UINT kCmDisplayConstellationBoundaries = 25026;
+    static constexpr UINT kCmDisplayPlanets = 25010;
+    static constexpr UINT kCmDisplayComets = 25029;
+    static constexpr UINT kCmDisplayRADecLines = 25012;
+    static constexpr UINT kCmDisplayMessierLabels = 25013;
+    static constexpr UINT kCmDisplayBelowHorizon = 25015;
+    static constexpr UINT kCmLocateConstellations = 25016;
+    static constexpr UINT kCmLocatePlanets = 25017;
+    static constexpr UINT kCmLocateStars = 25018;
+    static constexpr UINT kCmLocateComets = 25030;
+    static constexpr UINT kCmLocateMessier = 25019;
+    static constexpr UINT kCmLocateSun = 25027;
+    static constexpr UINT kCmLocateMoon = 25028;
+    static constexpr UINT kCmDumpTimeZoneNames = 25032;
+    // The file, in the user's configuration directory, that the zone names are written to.
+    static constexpr const char* kTimeZoneDumpFile = "TimeZoneDump.txt";
     // The word of the planetarium's bookmarks and icon in the host.
     static constexpr const char* kBookmarkType = "PLNT";
 
@@ -67,6 +101,53 @@ public:
     // Shows or hides the Messier objects and keeps the choice as the default.
     void SetMessierObjectsDisplay(bool show);
 
+    // Commands of the host's menu.
+    // The field of view: three quarters of it, not below 0.1 degrees; four thirds of it, not
+    // above 90 degrees.
+    void CmZoomIn();
+    void CmZoomOut();
+    // The location dialog on the map's place; OK takes the place, its name and zone and keeps
+    // them as the default.
+    void CmSetLocation();
+    // The time dialog; OK takes its time, and the place and zone it may have changed.
+    void CmSetTime();
+    // The time-lapse dialog; OK takes the pace, its start button takes it and starts the lapse.
+    void CmSetTimeLapse();
+    void CmStartTimeLapse();
+    // Runs the lapse while a small dialog stands open; whatever closes it stops the lapse,
+    // leaving the map at the time reached.
+    void StartTimeLapse();
+    // Asks the host's frame to start the sky game.
+    void CmSkyhuntGame();
+    // The grid dialog on the map's grid; OK takes it.
+    void CmDisplayRADecLines();
+    // Shows or hides the grid as it is.
+    void CmGridToggle();
+    // Toggles of what the map shows.
+    void CmDisplayConstellationFigures();
+    void CmDisplayConstellationLabels();
+    void CmDisplayConstellationBoundaries();
+    void CmDisplayPlanets();
+    void CmDisplayComets();
+    void CmDisplayMessierLabels();
+    void CmDisplayBelowHorizon();
+    // The object list dialog on one catalogue; the object chosen is brought into view.
+    void CmLocateConstellations();
+    void CmLocatePlanets();
+    void CmLocateStars();
+    void CmLocateComets();
+    void CmLocateMessier();
+    void ShowObjectListDialog(AstroCatalogue::AstroCatalogues which);
+    void CmLocateSun();
+    void CmLocateMoon();
+    // Writes the names of all time zones to kTimeZoneDumpFile.
+    void CmDumpTimeZoneNames();
+
+    // The wait cursor while busy, the arrow otherwise.
+    void SetBusy(bool busy);
+    bool IsBusy() const { return bBusy; }
+    void UpdateCursor();
+
     // Sets the layout of the map and the panel for a client area of that size: the map
     // inside the frame's bezel, right of the panel when there is one. TLayoutWindow::Layout
     // then moves them there.
@@ -93,9 +174,6 @@ public:
     // Prints a star chart of the map's view: the platform's print dialog, then, unless the user
     // cancelled there, the dialog with the chart's preview. The wait cursor shows meanwhile.
     void CmPrint();
-    // The wait cursor while busy, the arrow otherwise.
-    void UpdateCursor();
-    bool IsBusy() const { return bBusy; }
 
     // The window's state: a level with "MapWindow", "DisplayStatusWindow" and
     // "DisplayFinderWindow".
@@ -113,6 +191,9 @@ private:
     std::string StateRoot;
     std::string DefaultKey = "Default";
     bool bBusy = false;
+
+    // The parent of the dialogs: this window once it is shown, its parent before.
+    TWindow* DialogParent();
 };
 
 StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window);

@@ -1090,11 +1090,12 @@ StateContainer& MapWindow::operator<<(StateContainer& sc) const
     return sc << NewLevel << AstroKey("Grid") << Grid << AstroKey("Orientation Type")
               << pOrientation->GetType() << AstroKey("Orientation") << *pOrientation
               << AstroKey("Constellations") << Collector.GetConstellationCatalogue()
-              << AstroKey("Animation") << Animation << AstroKey("Time") << Time
-              << AstroKey("TimeZone") << Zone << AstroKey("Show Nearest Dark Time At Startup")
-              << bShowNearestDarkTime << AstroKey("Display") << Display << AstroKey("Messier")
-              << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
-              << LocationName << EndLevel;
+              << AstroKey("Planets") << Collector.GetPlanetCatalogue() << AstroKey("Animation")
+              << Animation << AstroKey("Time") << Time << AstroKey("TimeZone") << Zone
+              << AstroKey("Show Nearest Dark Time At Startup") << bShowNearestDarkTime
+              << AstroKey("Display") << Display << AstroKey("Messier") << bShowMessier
+              << AstroKey("Comets") << bShowComets << AstroKey("Location Name") << LocationName
+              << EndLevel;
 }
 
 StateContainer& MapWindow::operator>>(StateContainer& sc)
@@ -1102,11 +1103,11 @@ StateContainer& MapWindow::operator>>(StateContainer& sc)
     GridInfo grid = Grid;
     int type = 0;
     sc >> GoToLevel >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
-        Collector.GetConstellationCatalogue() >> AstroKey("Animation") >> Animation >>
-        AstroKey("Time") >> Time >> AstroKey("TimeZone") >> Zone >>
-        AstroKey("Show Nearest Dark Time At Startup") >> bShowNearestDarkTime >>
-        AstroKey("Display") >> Display >> AstroKey("Orientation Type") >> type >>
-        AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
+        Collector.GetConstellationCatalogue() >> AstroKey("Planets") >>
+        Collector.GetPlanetCatalogue() >> AstroKey("Animation") >> Animation >> AstroKey("Time") >>
+        Time >> AstroKey("TimeZone") >> Zone >> AstroKey("Show Nearest Dark Time At Startup") >>
+        bShowNearestDarkTime >> AstroKey("Display") >> Display >> AstroKey("Orientation Type") >>
+        type >> AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
         AstroKey("Comets") >> bShowComets;
     SetGridInfo(grid);
     ReadOrientation(sc, type);
@@ -1120,7 +1121,8 @@ void MapWindow::SaveDefaultState(StateContainer& sc) const
 {
     sc << AstroKey("Grid") << Grid << AstroKey("Orientation Type") << pOrientation->GetType()
        << AstroKey("Orientation") << *pOrientation << AstroKey("Constellations")
-       << Collector.GetConstellationCatalogue() << AstroKey("Animation") << Animation
+       << Collector.GetConstellationCatalogue() << AstroKey("Planets")
+       << Collector.GetPlanetCatalogue() << AstroKey("Animation") << Animation
        << AstroKey("TimeZone") << Zone << AstroKey("Display") << Display << AstroKey("Messier")
        << bShowMessier << AstroKey("Comets") << bShowComets << AstroKey("Location Name")
        << LocationName;
@@ -1131,7 +1133,8 @@ void MapWindow::RestoreDefaultState(StateContainer& sc)
     GridInfo grid = Grid;
     int type = 0;
     sc >> AstroKey("Grid") >> grid >> AstroKey("Constellations") >>
-        Collector.GetConstellationCatalogue() >> AstroKey("Animation") >> Animation >>
+        Collector.GetConstellationCatalogue() >> AstroKey("Planets") >>
+        Collector.GetPlanetCatalogue() >> AstroKey("Animation") >> Animation >>
         AstroKey("TimeZone") >> Zone >> AstroKey("Display") >> Display >>
         AstroKey("Location Name") >> LocationName >> AstroKey("Messier") >> bShowMessier >>
         AstroKey("Comets") >> bShowComets >> AstroKey("Orientation Type") >> type;

@@ -233,8 +233,8 @@ public:
     // A click on an object: a constellation leads to its article, any other object to its
     // information.
     void HandleObjectSelection(AstroObject& o);
-    // Shows what is known of the object; the information dialog that does so is not part of
-    // the map yet, and until it is nothing is shown.
+    // Shows what is known of the object in the modal information dialog; when its article
+    // button closed it, the article goes to the parent as a reference.
     virtual void DisplayObjectInfo(AstroObject& o);
     // Opens the object's first article through the parent.
     void DereferenceObject(AstroObject& o);

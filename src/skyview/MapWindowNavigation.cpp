@@ -22,6 +22,7 @@
 #include "platform/WindowCalls.h"
 #include "projection/PerspectiveModifier.h"
 #include "projection/RotatingOrientationInfo.h"
+#include "shell/ObjectInfoDialog.h"
 #include "skyview/Label.h"
 #include "skyview/MapWindow.h"
 #include "skyview/MouseDragger.h"
@@ -390,9 +391,14 @@ void MapWindow::HandleObjectSelection(AstroObject& o)
     }
 }
 
-void MapWindow::DisplayObjectInfo(AstroObject&)
+void MapWindow::DisplayObjectInfo(AstroObject& o)
 {
-    // The information dialog, and the article button in it, join the map later.
+    ObjectInfoDialog dialog(this, o);
+    dialog.Execute();
+    // The article button closes the dialog with the object's article to go to.
+    if (!dialog.GetLaunchString().empty()) {
+        GenerateReference(dialog.GetLaunchString());
+    }
 }
 
 void MapWindow::DereferenceObject(AstroObject& o)
