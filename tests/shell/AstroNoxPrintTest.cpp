@@ -11,18 +11,11 @@
 #include <memory>
 #include <string>
 
-#include "host/HostFrameAPI.h"
-#include "host/HostFrameWindow.h"
-#include "host/ScopedHome.h"
+#include "ComponentInFrame.h"
 #include "platform/PrintDialog.h"
-#include "platform/Registry.h"
 #include "platform/TPrinter.h"
-#include "platform/WindowCalls.h"
-#include "shell/AstroNoxWindow.h"
-#include "shell/OrbiscopeEntry.h"
 #include "skyview/AstroPrintDialog.h"
 #include "skyview/MapWindow.h"
-#include "windows/HeadlessFixture.h"
 
 namespace {
 
@@ -33,39 +26,29 @@ const char* const kPleiades =
     "FullState=1 AstroNoxWindow=<MapWindow=<Orientation_Type=0 Orientation=<Base=<Radius=5> "
     "CenterOfView=<RA=56.75 Dec=24.1167> Zenith=<RA=56.75 Dec=90>>>>";
 
-class AstroNoxPrintTest : public HeadlessTest
+class AstroNoxPrintTest : public ComponentInFrame
 {
 protected:
+    AstroNoxPrintTest() : ComponentInFrame(320, 240) {}
+
     void SetUp() override
     {
-        HeadlessTest::SetUp();
-        SetHostFrameAPI(&Frame);
-        pFrame = std::make_unique<HostFrameWindow>("Host", 320, 240);
-        ASSERT_TRUE(pFrame->Create());
+        ComponentInFrame::SetUp();
         SavedPrinter = TPrinter::Default();
         // A coarse printer keeps the pages quick.
         ASSERT_TRUE(TPrinter::Default().SetResolution(72));
         Chart = fs::path(Home.Path()) / "chart.pdf";
         TPrinter::Default().SetOutputFile(Chart.string());
-        const std::uint32_t handle = orbiscope(pFrame->HWindow, kPleiades);
-        pWindow = dynamic_cast<AstroNoxWindow*>(
-            GetWindowPtr(reinterpret_cast<HWND>(std::uintptr_t(handle))));
+        pWindow = Enter(kPleiades);
         ASSERT_NE(pWindow, nullptr);
         Pump();
     }
     void TearDown() override
     {
         TPrinter::Default() = SavedPrinter;
-        pFrame->Destroy();
-        pFrame.reset();
-        SetHostFrameAPI(nullptr);
-        CloseRegistryStore();
-        HeadlessTest::TearDown();
+        ComponentInFrame::TearDown();
     }
 
-    ScopedHome Home;
-    StandardHostFrame Frame;
-    std::unique_ptr<HostFrameWindow> pFrame;
     AstroNoxWindow* pWindow = nullptr;
     TPrinter SavedPrinter;
     fs::path Chart;

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "ComponentInFrame.h"
 #include "coords/StellarCoord.h"
 #include "host/HostBookmark.h"
 #include "host/HostFrameAPI.h"
@@ -20,7 +21,6 @@
 #include "shell/OrbiscopeEntry.h"
 #include "skyview/AstroStatusWindow.h"
 #include "skyview/MapWindow.h"
-#include "windows/HeadlessFixture.h"
 
 namespace {
 
@@ -46,39 +46,19 @@ HWND ToHandle(std::uint32_t handle)
 
 } // namespace
 
-class AstroNoxWindowTest : public HeadlessTest
+class AstroNoxWindowTest : public ComponentInFrame
 {
 protected:
-    void SetUp() override
-    {
-        HeadlessTest::SetUp();
-        SetHostFrameAPI(&Frame);
-        pFrame = std::make_unique<HostFrameWindow>("Host", kWidth, kHeight);
-        ASSERT_TRUE(pFrame->Create());
-    }
-    void TearDown() override
-    {
-        pFrame->Destroy();
-        pFrame.reset();
-        SetHostFrameAPI(nullptr);
-        CloseRegistryStore();
-        HeadlessTest::TearDown();
-    }
+    AstroNoxWindowTest() : ComponentInFrame(kWidth, kHeight) {}
 
     // Starts the component in the frame as the host does.
     AstroNoxWindow& Start(const char* command = nullptr)
     {
-        std::uint32_t handle = orbiscope(pFrame->HWindow, command);
-        EXPECT_NE(handle, 0u);
-        auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(ToHandle(handle)));
+        AstroNoxWindow* window = Enter(command);
         EXPECT_NE(window, nullptr);
         Pump();
         return *window;
     }
-
-    ScopedHome Home;
-    StandardHostFrame Frame;
-    std::unique_ptr<HostFrameWindow> pFrame;
 };
 
 TEST_F(AstroNoxWindowTest, TheEntryMakesTheComponentOverTheFrameWithTheMapInsideTheBezel)

@@ -6,25 +6,16 @@
 #include <memory>
 #include <string>
 
+#include "ComponentInFrame.h"
 #include "catalogues/AstroObject.h"
 #include "catalogues/Constellation.h"
 #include "catalogues/ConstellationCatalogue.h"
 #include "coords/StellarCoord.h"
-#include "host/HostFrameAPI.h"
-#include "host/HostFrameWindow.h"
-#include "host/ScopedHome.h"
-#include "platform/Registry.h"
 #include "projection/FixedOrientationInfo.h"
-#include "shell/AstroNoxWindow.h"
-#include "shell/OrbiscopeEntry.h"
 #include "skyview/MapWindow.h"
 #include "solar/PlanetCatalogue.h"
-#include "windows/HeadlessFixture.h"
 
 namespace {
-
-constexpr int kWidth = 300;
-constexpr int kHeight = 200;
 
 // A chart fixed on the stars at 0h UT on 2000 January 1: it shows whatever is named without
 // asking about the horizon, and its bodies stand where they stood then.
@@ -34,35 +25,13 @@ const char* const kChart =
     "Minute=0 Second=0 Mode=0>>>";
 const PolarCoord kChartCentre(0.0, 0.0);
 
-HWND ToHandle(std::uint32_t handle)
-{
-    return reinterpret_cast<HWND>(std::uintptr_t(handle));
-}
-
-class CommandStringTest : public HeadlessTest
+class CommandStringTest : public ComponentInFrame
 {
 protected:
-    void SetUp() override
+    // The component in the frame, unpainted.
+    AstroNoxWindow& EnterUnpainted(const char* command)
     {
-        HeadlessTest::SetUp();
-        SetHostFrameAPI(&Frame);
-        pFrame = std::make_unique<HostFrameWindow>("Host", kWidth, kHeight);
-        ASSERT_TRUE(pFrame->Create());
-    }
-    void TearDown() override
-    {
-        pFrame->Destroy();
-        pFrame.reset();
-        SetHostFrameAPI(nullptr);
-        CloseRegistryStore();
-        HeadlessTest::TearDown();
-    }
-
-    // The component in the frame, unpainted: the host's message loop has not turned yet.
-    AstroNoxWindow& Enter(const char* command)
-    {
-        const std::uint32_t handle = orbiscope(pFrame->HWindow, command);
-        auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(ToHandle(handle)));
+        AstroNoxWindow* window = Enter(command);
         EXPECT_NE(window, nullptr);
         return *window;
     }
@@ -70,7 +39,7 @@ protected:
     // The component showing the chart, painted.
     AstroNoxWindow& StartOnTheChart()
     {
-        AstroNoxWindow& window = Enter(kChart);
+        AstroNoxWindow& window = EnterUnpainted(kChart);
         Pump();
         return window;
     }
@@ -94,10 +63,6 @@ protected:
     {
         return *window.GetMap()->GetCollector().GetPlanetCatalogue().GetView(place);
     }
-
-    ScopedHome Home;
-    StandardHostFrame Frame;
-    std::unique_ptr<HostFrameWindow> pFrame;
 };
 
 } // namespace
@@ -178,7 +143,7 @@ TEST_F(CommandStringTest, AStringRefWinsOverAUid)
 
 TEST_F(CommandStringTest, AnObjectNamedToTheEntryWaitsForTheFirstPaint)
 {
-    AstroNoxWindow& window = Enter("stringref=Planet,Jupiter");
+    AstroNoxWindow& window = EnterUnpainted("stringref=Planet,Jupiter");
     MapWindow& map = *window.GetMap();
     ASSERT_TRUE(map.IsFirstDrawPending());
     // Before the first paint the host gives the view a chart, so that no horizon is in the way.
