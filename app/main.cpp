@@ -452,12 +452,15 @@ bool ParseRequest(const std::vector<std::string>& args, Making making, RenderReq
     return true;
 }
 
-int Render(const std::vector<std::string>& args)
+// `orbiscope render` and `orbiscope print`: the component in a frame without a display, set to
+// the requested view, then the picture of the map or the chart of its view written out.
+int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
 {
+    const char* const command = making == Making::Picture ? "render" : "print";
     RenderRequest request;
     std::string error;
-    if (!ParseRequest(args, Making::Picture, request, error)) {
-        std::fprintf(stderr, "orbiscope render: %s (see orbiscope --help)\n", error.c_str());
+    if (!ParseRequest(args, making, request, error)) {
+        std::fprintf(stderr, "orbiscope %s: %s (see orbiscope --help)\n", command, error.c_str());
         return kExitUsage;
     }
     std::optional<Component> component = LoadComponent(error);
@@ -469,63 +472,30 @@ int Render(const std::vector<std::string>& args)
     char reason[256] = {};
     kit.OpenDesktop(0, reason, sizeof reason);
 
-    // The frame is as much larger than the picture as the bezel round the map takes.
+    // A picture: the frame is as much larger than the picture as the bezel round the map
+    // takes. A chart's sky has the page's shape, whatever the size of the window.
     const int inset = kit.GetMapInset();
     const std::uint32_t frame =
-        kit.CreateFrame("Orbiscope", request.Width + 2 * inset, request.Height + 2 * inset);
+        making == Making::Picture
+            ? kit.CreateFrame("Orbiscope", request.Width + 2 * inset, request.Height + 2 * inset)
+            : kit.CreateFrame("Orbiscope", kFrameWidth, kFrameHeight);
     const std::uint32_t map =
         frame ? component->Entry(ToHandle(frame), request.Command.c_str()) : 0;
     int status = 0;
     if (!map) {
-        std::fprintf(stderr, "orbiscope render: the planetarium did not start\n");
+        std::fprintf(stderr, "orbiscope %s: the planetarium did not start\n", command);
         status = kExitFailure;
     } else {
         kit.SetView(map, &request.View);
-        if (!kit.SaveMapPicture(map, request.Out.c_str())) {
-            std::fprintf(stderr, "orbiscope render: cannot write %s\n", request.Out.c_str());
+        const bool written = making == Making::Picture
+                                 ? kit.SaveMapPicture(map, request.Out.c_str())
+                                 : kit.PrintChart(map, request.Out.c_str(), request.Paper);
+        if (!written) {
+            std::fprintf(stderr, "orbiscope %s: cannot write %s\n", command, request.Out.c_str());
             status = kExitFailure;
-        } else {
+        } else if (making == Making::Picture) {
             std::printf("orbiscope: wrote %s (%dx%d)\n", request.Out.c_str(), request.Width,
                         request.Height);
-        }
-    }
-    if (frame) {
-        kit.DestroyFrame(frame);
-    }
-    kit.CloseDesktop();
-    return status;
-}
-
-int Print(const std::vector<std::string>& args)
-{
-    RenderRequest request;
-    std::string error;
-    if (!ParseRequest(args, Making::Chart, request, error)) {
-        std::fprintf(stderr, "orbiscope print: %s (see orbiscope --help)\n", error.c_str());
-        return kExitUsage;
-    }
-    std::optional<Component> component = LoadComponent(error);
-    if (!component) {
-        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
-        return kExitFailure;
-    }
-    const OrbiscopeHostKit& kit = *component->Kit;
-    char reason[256] = {};
-    kit.OpenDesktop(0, reason, sizeof reason);
-
-    // The chart's sky has the page's shape, whatever the size of the window.
-    const std::uint32_t frame = kit.CreateFrame("Orbiscope", kFrameWidth, kFrameHeight);
-    const std::uint32_t map =
-        frame ? component->Entry(ToHandle(frame), request.Command.c_str()) : 0;
-    int status = 0;
-    if (!map) {
-        std::fprintf(stderr, "orbiscope print: the planetarium did not start\n");
-        status = kExitFailure;
-    } else {
-        kit.SetView(map, &request.View);
-        if (!kit.PrintChart(map, request.Out.c_str(), request.Paper)) {
-            std::fprintf(stderr, "orbiscope print: cannot write %s\n", request.Out.c_str());
-            status = kExitFailure;
         } else {
             std::printf("orbiscope: wrote %s (%s)\n", request.Out.c_str(),
                         request.Paper == 0 ? "A4" : "Letter");
@@ -602,10 +572,12 @@ int main(int argc, char** argv)
         return 0;
     }
     if (!args.empty() && args[0] == "render") {
-        return Render(std::vector<std::string>(args.begin() + 1, args.end()));
+        return MakeWithoutDisplay(std::vector<std::string>(args.begin() + 1, args.end()),
+                                  Making::Picture);
     }
     if (!args.empty() && args[0] == "print") {
-        return Print(std::vector<std::string>(args.begin() + 1, args.end()));
+        return MakeWithoutDisplay(std::vector<std::string>(args.begin() + 1, args.end()),
+                                  Making::Chart);
     }
     if (!args.empty() && args[0].rfind("--", 0) == 0) {
         std::fprintf(stderr, "orbiscope: unknown option %s\n\n", args[0].c_str());

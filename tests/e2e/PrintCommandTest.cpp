@@ -6,11 +6,6 @@
 // directory with TZ=UTC, so that the heading's time does not depend on the machine.
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -18,26 +13,11 @@
 #include <string>
 #include <vector>
 
-extern char** environ;
+#include "ProgramTest.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Outcome
-{
-    int nExit = -1;
-    std::string Out;
-    std::string Err;
-};
-
-std::string ReadAll(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 // The standard output of a poppler tool run on a file.
 std::string Poppler(const std::string& tool, const fs::path& pdf, const std::string& after = "")
@@ -67,68 +47,10 @@ std::string InfoLine(const std::string& info, const std::string& name)
     return std::string();
 }
 
-class PrintCommandTest : public ::testing::Test
+class PrintCommandTest : public ProgramTest
 {
 protected:
-    void SetUp() override
-    {
-        std::string pattern = (fs::temp_directory_path() / "orbiscope-printcmd-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        Dir = pattern;
-    }
-    void TearDown() override
-    {
-        std::error_code ignored;
-        fs::remove_all(Dir, ignored);
-    }
-
-    // Runs the program with `args`, without a display, in its own home and UTC.
-    Outcome Run(const std::vector<std::string>& args)
-    {
-        std::vector<std::string> env = {"ORBISCOPE_HOME=" + (Dir / "home").string(), "TZ=UTC"};
-        for (char** e = environ; *e; ++e) {
-            const std::string entry = *e;
-            const std::string name = entry.substr(0, entry.find('='));
-            if (name != "ORBISCOPE_HOME" && name != "TZ" && name != "DISPLAY" &&
-                name != "WAYLAND_DISPLAY") {
-                env.push_back(entry);
-            }
-        }
-        std::vector<std::string> argv = {ORBISCOPE_APP};
-        argv.insert(argv.end(), args.begin(), args.end());
-        std::vector<char*> cargv;
-        for (std::string& a : argv) {
-            cargv.push_back(a.data());
-        }
-        cargv.push_back(nullptr);
-        std::vector<char*> cenv;
-        for (std::string& e : env) {
-            cenv.push_back(e.data());
-        }
-        cenv.push_back(nullptr);
-
-        const fs::path out = Dir / "stdout.txt";
-        const fs::path err = Dir / "stderr.txt";
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(),
-                                         O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(),
-                                         O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        pid_t pid = 0;
-        Outcome outcome;
-        if (posix_spawnp(&pid, cargv[0], &actions, nullptr, cargv.data(), cenv.data()) == 0) {
-            int status = 0;
-            ::waitpid(pid, &status, 0);
-            outcome.nExit = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-        }
-        posix_spawn_file_actions_destroy(&actions);
-        outcome.Out = ReadAll(out);
-        outcome.Err = ReadAll(err);
-        return outcome;
-    }
-
-    fs::path Dir;
+    PrintCommandTest() : ProgramTest("orbiscope-printcmd") {}
 };
 
 TEST_F(PrintCommandTest, PrintsTheChartOfTheViewOnOneLetterPage)
