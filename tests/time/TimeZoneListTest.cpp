@@ -1,260 +1,241 @@
-// The list of zones, the zone index file and the machine's zone, on a tree of zone files made
-// in code, so that nothing here depends on the system's database.
+// The list of zones from the system's IANA database: what it holds, how zones are found, the
+// zone index file, the machine's zone, and every zone against the C library's reading of the
+// same files, an implementation apart from ours.
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <stdlib.h>
+#include <strings.h>
+
+#include <cmath>
+#include <cstdint>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <set>
 #include <string>
 #include <vector>
 
-#include "TimeZoneTestFiles.h"
-#include "catalogues/TextFile.h"
 #include "platform/DebugStream.h"
 #include "state/CmdLineStateContainer.h"
 #include "time/AstroTime.h"
 #include "time/TimeZone.h"
+#include "time/TimeZoneDirectory.h"
+#include "time/TimeZoneFile.h"
 
-using tztest::ScratchTree;
-using tztest::SimpleTzif;
+namespace fs = std::filesystem;
 
 namespace {
 
+// The system's zones loaded, and a scratch directory for files of the test's own.
 class TimeZoneList : public ::testing::Test
 {
 protected:
     void SetUp() override
     {
-        Tree.Write("zoneinfo/Europe/Berlin", SimpleTzif(3600, "CET", "CET-1CEST,M3.5.0,M10.5.0/3"));
-        Tree.Write("zoneinfo/Europe/Amsterdam",
-                   SimpleTzif(3600, "CET", "CET-1CEST,M3.5.0,M10.5.0/3") + "\n");
-        Tree.Write("zoneinfo/America/New_York",
-                   SimpleTzif(-18000, "EST", "EST5EDT,M3.2.0,M11.1.0"));
-        Tree.Link("zoneinfo/US/Eastern", "../America/New_York");
-        Tree.Link("zoneinfo/America/Fort_Wayne", "New_York");
-        Tree.Write("zoneinfo/Asia/Kolkata", SimpleTzif(19800, "IST", "IST-5:30"));
-        Tree.Write("zoneinfo/Etc/UTC", SimpleTzif(0, "UTC", "UTC0"));
-        Tree.Link("zoneinfo/UTC", "Etc/UTC");
-        // Rule-less files keep the offset they end with.
-        Tree.Write("zoneinfo/Africa/Casablanca", SimpleTzif(3600, "+01", ""));
-        // Damaged files are left out with a message.
-        Tree.Write("zoneinfo/Broken/Zone", SimpleTzif(0, "UTC", "UTC0").substr(0, 60));
-        Tree.Write("zoneinfo/posix/Europe/Berlin",
-                   SimpleTzif(3600, "CET", "CET-1CEST,M3.5.0,M10.5.0/3"));
-        Tree.Write("zoneinfo/zone.tab", "DE\t+5230+01322\tEurope/Berlin\n");
-
-        Messages.clear();
+        if (!TimeZoneDirectory().Exists()) {
+            GTEST_SKIP() << "no IANA zone files at " << TimeZoneDirectory::DefaultRoot()
+                         << " (install tzdata)";
+        }
+        char name[] = "/tmp/orbiscope-tz-XXXXXX";
+        ASSERT_NE(mkdtemp(name), nullptr);
+        Root = name;
         PreviousSink = SetDebugSink([this](const char* text) { Messages += text; });
-        TimeZone::LoadTimeZonesFrom(Tree.Path("zoneinfo"));
+        TimeZone::LoadTimeZones();
     }
-
     void TearDown() override
     {
-        SetDebugSink(PreviousSink);
-        TimeZone::LoadTimeZones();
-        TimeZone::LoadTimeZoneIndex(TimeZone::TimeZoneIndexPath());
+        if (!Root.empty()) {
+            SetDebugSink(PreviousSink);
+            TimeZone::LoadTimeZones();
+            TimeZone::LoadTimeZoneIndex(TimeZone::TimeZoneIndexPath());
+            fs::remove_all(Root);
+        }
     }
-
-    void WriteIndex(const std::string& text)
+    // Writes a file below the scratch directory and gives its path.
+    std::string Write(const std::string& relative, const std::string& bytes)
     {
-        Tree.Write("timezone.txt", text);
-        TimeZone::LoadTimeZoneIndex(Tree.Path("timezone.txt"));
+        fs::create_directories(fs::path(Root + "/" + relative).parent_path());
+        std::ofstream(Root + "/" + relative, std::ios::binary) << bytes;
+        return Root + "/" + relative;
     }
-
+    static std::string SystemFile(const char* zone)
+    {
+        std::string bytes;
+        TimeZoneFile::ReadBytes(TimeZoneDirectory().GetPath(zone), bytes);
+        return bytes;
+    }
     static std::string NameOf(const TimeZone* zone)
     {
         return zone != nullptr ? zone->GetDisplayName() : std::string("(none)");
     }
 
-    ScratchTree Tree;
+    std::string Root;
     std::string Messages;
     DebugSink PreviousSink;
 };
 
+// Local minus universal time in minutes at a moment of the Unix clock, as the zone converts
+// it, and as the C library sees it under the TZ variable.
+long OffsetMinutes(std::int64_t when, const TimeZone& zone)
+{
+    const AstroTime universal(40587.0 + static_cast<double>(when) / 86400.0, true);
+    return std::lround(((universal - zone).GetMJD() - universal.GetMJD()) * 1440.0);
+}
+
+long LibraryOffsetMinutes(std::int64_t when)
+{
+    const std::time_t t = static_cast<std::time_t>(when);
+    std::tm parts{};
+    localtime_r(&t, &parts);
+    return parts.tm_gmtoff / 60;
+}
+
 } // namespace
 
-TEST_F(TimeZoneList, LoadsEveryZoneFileInNameOrder)
+TEST_F(TimeZoneList, HoldsEveryZoneOnceInNameOrderAndLeavesOutTheRest)
 {
-    std::vector<std::string> names;
-    for (const TimeZone& zone : TimeZone::GetAllTimeZones()) {
-        names.push_back(zone.GetDisplayName());
+    // The tree also holds copies under posix/ and right/ and files that are no zone of a place.
+    const std::vector<TimeZone>& zones = TimeZone::GetAllTimeZones();
+    ASSERT_GT(zones.size(), 300u);
+    const std::set<std::string> noZones = {"posixrules", "Factory", "localtime", "zone.tab"};
+    for (std::size_t i = 0; i < zones.size(); ++i) {
+        const std::string name = zones[i].GetZoneName();
+        EXPECT_TRUE(noZones.count(name) == 0 && name.find("posix/") != 0 &&
+                    name.find("right/") != 0)
+            << name;
+        EXPECT_LT(strcasecmp(i == 0 ? "" : zones[i - 1].GetZoneName().c_str(), name.c_str()), 0)
+            << name;
     }
-    std::vector<std::string> expected = {"(UTC+01:00) Africa/Casablanca",
-                                         "(UTC-05:00) America/Fort_Wayne",
-                                         "(UTC-05:00) America/New_York",
-                                         "(UTC+05:30) Asia/Kolkata",
-                                         "(UTC+00:00) Etc/UTC",
-                                         "(UTC+01:00) Europe/Amsterdam",
-                                         "(UTC+01:00) Europe/Berlin",
-                                         "(UTC-05:00) US/Eastern",
-                                         "(UTC+00:00) UTC"};
-    EXPECT_EQ(names, expected);
+    // A damaged file is left out, with a message, and a tree without zones says so.
+    Write("tree/Europe/Berlin", SystemFile("Europe/Berlin"));
+    Write("tree/Broken/Zone", SystemFile("Europe/Berlin").substr(0, 60));
+    TimeZone::LoadTimeZonesFrom(Root + "/tree");
+    ASSERT_EQ(TimeZone::GetAllTimeZones().size(), 1u);
+    EXPECT_EQ(TimeZone::GetAllTimeZones()[0].GetDisplayName(), "(UTC+01:00) Europe/Berlin");
     EXPECT_NE(Messages.find("Broken/Zone"), std::string::npos) << Messages;
-
-    const TimeZone* berlin = TimeZone::GetTimeZone("(UTC+01:00) Europe/Berlin");
-    ASSERT_NE(berlin, nullptr);
-    EXPECT_EQ(berlin->GetStandardName(), "Europe/Berlin");
-    EXPECT_EQ(berlin->GetZoneInformation().Bias, -60);
-    EXPECT_EQ(berlin->GetZoneInformation().DaylightDate.wMonth, 3);
-    EXPECT_TRUE(berlin->GetAutomaticDST());
-
-    const TimeZone* casablanca = TimeZone::GetTimeZone("Africa/Casablanca");
-    ASSERT_NE(casablanca, nullptr);
-    EXPECT_EQ(casablanca->GetZoneInformation().Bias, -60);
-    EXPECT_EQ(casablanca->GetZoneInformation().DaylightDate.wMonth, 0);
-
-    // A tree without zone files gives an empty list, and says so.
-    Messages.clear();
-    TimeZone::LoadTimeZonesFrom(Tree.Path("nothing"));
+    TimeZone::LoadTimeZonesFrom(Root + "/nothing");
     EXPECT_NE(Messages.find("No time zones found"), std::string::npos) << Messages;
 }
 
-TEST_F(TimeZoneList, FindsZonesByDisplayNameOrByZoneName)
+TEST_F(TimeZoneList, FindsZonesByNameByIndexLineAndFromSavedState)
 {
-    EXPECT_EQ(NameOf(TimeZone::GetTimeZone("(UTC+05:30) Asia/Kolkata")),
-              "(UTC+05:30) Asia/Kolkata");
+    // By display name or zone name without regard to case, and by its name a zone that the
+    // database has moved to another offset.
     EXPECT_EQ(NameOf(TimeZone::GetTimeZone("(utc+05:30) ASIA/KOLKATA")),
               "(UTC+05:30) Asia/Kolkata");
-    EXPECT_EQ(NameOf(TimeZone::GetTimeZone("Asia/Kolkata")), "(UTC+05:30) Asia/Kolkata");
-    // A zone moved to another offset is still found by its name.
     EXPECT_EQ(NameOf(TimeZone::GetTimeZone("(UTC+06:00) Asia/Kolkata")),
               "(UTC+05:30) Asia/Kolkata");
-    EXPECT_EQ(TimeZone::GetTimeZone("(UTC+05:30) Asia/Calcutta"), nullptr);
-    EXPECT_EQ(TimeZone::GetTimeZone(""), nullptr);
-    EXPECT_EQ(TimeZone::GetTimeZone("(UTC+05:30) "), nullptr);
+    EXPECT_EQ(TimeZone::GetTimeZone("(UTC+05:30) Asia/Nowhere"), nullptr);
 
-    // The pointer points into the list.
-    const TimeZone* found = TimeZone::GetTimeZone("Etc/UTC");
-    const std::vector<TimeZone>& all = TimeZone::GetAllTimeZones();
-    EXPECT_TRUE(found >= all.data() && found < all.data() + all.size());
-}
-
-TEST_F(TimeZoneList, IndexLinesGiveZoneNumbers)
-{
-    WriteIndex("(UTC+00:00) Etc/UTC\n"
-               "(UTC+01:00) Europe/Berlin\n"
-               "(UTC+05:30) Asia/Calcutta | (UTC+05:30) Asia/Kolkata\n"
-               "(UTC-05:00) America/New_York|(UTC+05:30) Asia/Kolkata\n"
-               "(UTC+01:00) Nowhere/Else\n"
-               "|(UTC+01:00) Europe/Berlin\n"
-               "(UTC+05:30) Asia/Calcutta\n");
-    EXPECT_EQ(TimeZone::GetTimeZone(0u), nullptr);
-    EXPECT_EQ(NameOf(TimeZone::GetTimeZone(1u)), "(UTC+01:00) Europe/Berlin");
-    // The first known name counts.
-    EXPECT_EQ(NameOf(TimeZone::GetTimeZone(2u)), "(UTC+05:30) Asia/Kolkata");
-    EXPECT_EQ(NameOf(TimeZone::GetTimeZone(3u)), "(UTC-05:00) America/New_York");
-    EXPECT_EQ(TimeZone::GetTimeZone(4u), nullptr);
-    // An empty first name ends the line.
-    EXPECT_EQ(TimeZone::GetTimeZone(5u), nullptr);
-    // A line of an unknown name only.
-    EXPECT_EQ(TimeZone::GetTimeZone(6u), nullptr);
-    // Past the last line.
-    EXPECT_EQ(TimeZone::GetTimeZone(7u), nullptr);
-    EXPECT_EQ(TimeZone::GetTimeZone(4000000000u), nullptr);
-}
-
-TEST_F(TimeZoneList, IndexStopsAtTheFirstEmptyLineAndAMissingFileGivesNoZones)
-{
-    WriteIndex("zero\r\n(UTC+01:00) Europe/Berlin\r\n\r\n(UTC+05:30) Asia/Kolkata\r\n");
-    EXPECT_EQ(NameOf(TimeZone::GetTimeZone(1u)), "(UTC+01:00) Europe/Berlin");
-    EXPECT_EQ(TimeZone::GetTimeZone(3u), nullptr);
-
-    Messages.clear();
-    EXPECT_FALSE(TimeZone::LoadTimeZoneIndex(Tree.Path("missing.txt")));
-    EXPECT_NE(Messages.find("missing.txt"), std::string::npos);
-    for (unsigned number = 0; number < 4; ++number) {
-        EXPECT_EQ(TimeZone::GetTimeZone(number), nullptr);
+    // Line 0 is never used, the first known name of a line counts, an empty name ends the
+    // line, and reading stops at the first empty line.
+    ASSERT_TRUE(TimeZone::LoadTimeZoneIndex(Write("timezone.txt", "(UTC+00:00) Etc/UTC\n"
+                                                                  "Asia/Nowhere | Asia/Kolkata\n"
+                                                                  "(UTC+01:00) Nowhere/Else\n"
+                                                                  "|Europe/Berlin\r\n"
+                                                                  "America/New_York\n"
+                                                                  "\n"
+                                                                  "Europe/Berlin\n")));
+    const std::vector<std::string> byNumber = {"(none)", "(UTC+05:30) Asia/Kolkata",     "(none)",
+                                               "(none)", "(UTC-05:00) America/New_York", "(none)",
+                                               "(none)"};
+    for (unsigned number = 0; number < byNumber.size(); ++number) {
+        EXPECT_EQ(NameOf(TimeZone::GetTimeZone(number)), byNumber[number]) << number;
     }
-    // An empty file, or one that begins with an empty line, is as good as none.
-    Tree.Write("empty.txt", "");
-    EXPECT_FALSE(TimeZone::LoadTimeZoneIndex(Tree.Path("empty.txt")));
-    Tree.Write("blank-first.txt", "\n(UTC+01:00) Europe/Berlin\n");
-    EXPECT_FALSE(TimeZone::LoadTimeZoneIndex(Tree.Path("blank-first.txt")));
+    // A missing file gives no zones, and says which.
+    EXPECT_FALSE(TimeZone::LoadTimeZoneIndex(Root + "/missing.txt"));
     EXPECT_EQ(TimeZone::GetTimeZone(1u), nullptr);
-}
+    EXPECT_NE(Messages.find("missing.txt"), std::string::npos);
+    // Berlin and Albany carry the zone numbers 273 and 136 in the city list.
+    ASSERT_TRUE(TimeZone::LoadTimeZoneIndex(TimeZone::TimeZoneIndexPath()));
+    EXPECT_EQ(NameOf(TimeZone::GetTimeZone(273u)), "(UTC+01:00) Europe/Berlin");
+    EXPECT_EQ(NameOf(TimeZone::GetTimeZone(136u)), "(UTC-05:00) America/New_York");
 
-TEST_F(TimeZoneList, PrintsAllDisplayNamesBetweenLineEnds)
-{
-    TextFile out;
-    ASSERT_TRUE(out.OpenForWriting(Tree.Path("dump.txt").c_str()));
-    TimeZone::PrintAllTimeZoneNames(out);
-    out.Close();
-    std::string text;
-    ASSERT_TRUE(tztest::ReadFile(Tree.Path("dump.txt"), text));
-    EXPECT_EQ(text, "(UTC+01:00) Africa/Casablanca\n(UTC-05:00) America/Fort_Wayne\n"
-                    "(UTC-05:00) America/New_York\n"
-                    "(UTC+05:30) Asia/Kolkata\n(UTC+00:00) Etc/UTC\n"
-                    "(UTC+01:00) Europe/Amsterdam\n(UTC+01:00) Europe/Berlin\n"
-                    "(UTC-05:00) US/Eastern\n(UTC+00:00) UTC");
-}
-
-TEST_F(TimeZoneList, StateReadsTheRecordOfTheNamedZone)
-{
-    TimeZone kolkata = *TimeZone::GetTimeZone("Asia/Kolkata");
-    kolkata.SetAutomaticDST(false);
+    // Saved state takes the record of the zone of that name.
     CmdLineStateContainer writer;
-    writer << AstroKey("TimeZone") << kolkata;
-
+    writer << AstroKey("TimeZone") << *TimeZone::GetTimeZone("Asia/Kolkata");
     TimeZone target = *TimeZone::GetTimeZone("America/New_York");
     CmdLineStateContainer reader(writer.GetCmdLine());
     reader >> AstroKey("TimeZone") >> target;
     EXPECT_EQ(target.GetDisplayName(), "(UTC+05:30) Asia/Kolkata");
     EXPECT_EQ(target.GetZoneInformation().Bias, -330);
-    EXPECT_FALSE(target.GetAutomaticDST());
-    EXPECT_FALSE(target.GetManualDSTToggle());
 }
 
-TEST_F(TimeZoneList, SystemZoneFromTheTzVariable)
+TEST_F(TimeZoneList, MachineZoneFromTheTzVariableOrTheLocaltimeFile)
 {
-    auto find = [](const char* tz) {
-        return TimeZone::FindSystemTimeZone(tz, "/nonexistent/localtime").GetDisplayName();
+    auto find = [&](const char* tz, const std::string& localtime) {
+        return TimeZone::FindSystemTimeZone(tz, localtime).GetDisplayName();
     };
-    EXPECT_EQ(find(":America/New_York"), "(UTC-05:00) America/New_York");
-    EXPECT_EQ(find("US/Eastern"), "(UTC-05:00) US/Eastern");
-    EXPECT_EQ(find("europe/berlin"), "(UTC+01:00) Europe/Berlin");
+    EXPECT_EQ(find(":America/New_York", ""), "(UTC-05:00) America/New_York");
     // Empty means Universal Time, as the C library has it.
-    EXPECT_EQ(find(""), "(UTC+00:00) UTC");
-    EXPECT_EQ(find(":"), "(UTC+00:00) UTC");
-    // A file of the tree that the list leaves out, and a file by its path.
-    EXPECT_EQ(find("posix/Europe/Berlin"), "(UTC+01:00) Europe/Berlin");
-    EXPECT_EQ(find(Tree.Path("zoneinfo/Asia/Kolkata").c_str()), "(UTC+05:30) Asia/Kolkata");
-    // A rule: the first zone with that record (Amsterdam's file differs from Berlin's only
-    // in a byte after the rule).
-    EXPECT_EQ(find("CET-1CEST,M3.5.0,M10.5.0/3"), "(UTC+01:00) Europe/Amsterdam");
-    // A rule that no zone has gives a nameless zone with that record.
-    TimeZone own = TimeZone::FindSystemTimeZone("XYZ-3", "/nonexistent");
-    EXPECT_EQ(own.GetDisplayName(), "");
-    EXPECT_EQ(own.GetZoneInformation().Bias, -180);
-    // Neither a zone nor a rule: the nameless zone of Universal Time.
-    TimeZone none = TimeZone::FindSystemTimeZone("Mars/Olympus_Mons", "/nonexistent");
-    EXPECT_EQ(none.GetDisplayName(), "");
-    EXPECT_TRUE(none == TimeZone());
-    EXPECT_EQ(find("../zoneinfo/Asia/Kolkata"), "");
+    EXPECT_EQ(find("", ""), "(UTC+00:00) UTC");
+    // A rule: the first zone with that record, or a nameless zone of its own; neither a zone
+    // nor a rule: the nameless zone of Universal Time.
+    EXPECT_EQ(find("IST-5:30", "").substr(0, 12), "(UTC+05:30) ");
+    EXPECT_EQ(TimeZone::FindSystemTimeZone("XYZ-3", "").GetZoneInformation().Bias, -180);
+    EXPECT_TRUE(TimeZone::FindSystemTimeZone("Mars/Olympus_Mons", "") == TimeZone());
+
+    // Without TZ: the zone a link names, or a copy known by its bytes, or none for a text.
+    fs::create_symlink(TimeZoneDirectory().GetPath("Asia/Kolkata"), Root + "/link");
+    EXPECT_EQ(find(nullptr, Root + "/link"), "(UTC+05:30) Asia/Kolkata");
+    EXPECT_EQ(find(nullptr, Write("copy", SystemFile("Australia/Lord_Howe"))),
+              "(UTC+10:30) Australia/Lord_Howe");
+    EXPECT_EQ(find(nullptr, Write("text", "Europe/Berlin\n")), "");
 }
 
-TEST_F(TimeZoneList, SystemZoneFromTheLocaltimeFile)
+TEST_F(TimeZoneList, EveryZoneAgreesWithTheCLibraryThroughout2026)
 {
-    auto find = [&](const std::string& relative) {
-        return TimeZone::FindSystemTimeZone(nullptr, Tree.Path(relative)).GetDisplayName();
-    };
-    // A link names its zone, also a link that is itself an old name.
-    Tree.Link("etc/localtime-link", Tree.Path("zoneinfo/US/Eastern"));
-    EXPECT_EQ(find("etc/localtime-link"), "(UTC-05:00) US/Eastern");
-    Tree.Link("etc/localtime-relative", "../zoneinfo/Asia/Kolkata");
-    EXPECT_EQ(find("etc/localtime-relative"), "(UTC+05:30) Asia/Kolkata");
-    // A copy is known by its bytes; a zone's own file wins over an old name linked to it
-    // (America/Fort_Wayne comes first in the list).
-    Tree.Write("etc/localtime-copy", SimpleTzif(-18000, "EST", "EST5EDT,M3.2.0,M11.1.0"));
-    EXPECT_EQ(find("etc/localtime-copy"), "(UTC-05:00) America/New_York");
-    Tree.Write("etc/localtime-utc", SimpleTzif(0, "UTC", "UTC0"));
-    EXPECT_EQ(find("etc/localtime-utc"), "(UTC+00:00) Etc/UTC");
-    // A file of other bytes is known by its rule.
-    Tree.Write("etc/localtime-other", SimpleTzif(3600, "MEZ", "CET-1CEST,M3.5.0,M10.5.0/3"));
-    EXPECT_EQ(find("etc/localtime-other"), "(UTC+01:00) Europe/Amsterdam");
-    Tree.Write("etc/localtime-unknown", SimpleTzif(3600, "XYZ", "XYZ-7"));
-    TimeZone unknown = TimeZone::FindSystemTimeZone(nullptr, Tree.Path("etc/localtime-unknown"));
-    EXPECT_EQ(unknown.GetDisplayName(), "");
-    EXPECT_EQ(unknown.GetZoneInformation().Bias, -420);
-    // No file, or no zone file: the nameless zone.
-    EXPECT_EQ(find("etc/missing"), "");
-    Tree.Write("etc/localtime-text", "Europe/Berlin\n");
-    EXPECT_EQ(find("etc/localtime-text"), "");
+    // Morocco's zones change around Ramadan, which no yearly rule tells. Elsewhere, a second
+    // either side of each change (its own moment counts as outside daylight saving), an hour
+    // after it, and noon every other week: New York's and Berlin's changes, Sydney's southern
+    // summer, Lord Howe's half hour, Dublin's winter "daylight" time, and the changes of Nuuk,
+    // Jerusalem and Santiago outside 0-23 h among them.
+    const std::set<std::string> noYearlyRule = {"Africa/Casablanca", "Africa/El_Aaiun"};
+    const std::int64_t from = 1767225600, to = 1798761600; // 2026 and 2027 January 1, 0h UT
+    const char* const tz = std::getenv("TZ");
+    const bool hadTz = tz != nullptr;
+    const std::string savedTz = hadTz ? tz : "";
+    int compared = 0;
+    for (const TimeZone& zone : TimeZone::GetAllTimeZones()) {
+        const std::string name = zone.GetZoneName();
+        if (noYearlyRule.count(name) != 0) {
+            continue;
+        }
+        setenv("TZ", (":" + TimeZoneDirectory().GetPath(name)).c_str(), 1);
+        tzset();
+        std::vector<std::int64_t> moments;
+        long previous = LibraryOffsetMinutes(from);
+        for (std::int64_t when = from; when < to; when += 6 * 3600) {
+            if ((when - from) % (14 * 86400) == 43200) {
+                moments.push_back(when);
+            }
+            const long next = LibraryOffsetMinutes(when + 6 * 3600);
+            // A change within these six hours: find its second.
+            for (std::int64_t before = when, after = when + 6 * 3600; next != previous;) {
+                const std::int64_t middle = (before + after) / 2;
+                if (LibraryOffsetMinutes(middle) == previous) {
+                    before = middle;
+                } else {
+                    after = middle;
+                }
+                if (after - before == 1) {
+                    moments.insert(moments.end(), {before, after + 1, after + 3600});
+                    break;
+                }
+            }
+            previous = next;
+        }
+        for (std::int64_t when : moments) {
+            EXPECT_EQ(OffsetMinutes(when, zone), LibraryOffsetMinutes(when))
+                << name << " at " << AstroTime(40587.0 + when / 86400.0, true).GetDescription1();
+            ++compared;
+        }
+    }
+    if (hadTz) {
+        setenv("TZ", savedTz.c_str(), 1);
+    } else {
+        unsetenv("TZ");
+    }
+    tzset();
+    EXPECT_GT(compared, 10000);
 }
