@@ -1,33 +1,28 @@
 #pragma once
-// The shared set-up of the component's window tests: a host frame window in a temporary
-// settings home, into which a test enters the component as the host does.
-#include <gtest/gtest.h>
-
+// The shared set-up of the component's window tests: a host frame window, into which a test
+// enters the component as the host does, and the article addresses the host is asked to open;
+// with what the dialog tests have, for the dialogs the component opens.
 #include <cstdint>
 #include <memory>
 
+#include "DialogTesting.h"
 #include "host/HostFrameAPI.h"
 #include "host/HostFrameWindow.h"
-#include "host/ScopedHome.h"
 #include "platform/Registry.h"
-#include "platform/WindowCalls.h"
 #include "shell/AstroNoxWindow.h"
 #include "shell/OrbiscopeEntry.h"
-#include "windows/HeadlessFixture.h"
+#include "skyview/MapWindow.h"
 
-class ComponentInFrame : public HeadlessTest
+class ComponentInFrame : public DialogTest
 {
 protected:
-    explicit ComponentInFrame(int width = 300, int height = 200)
-        : nFrameWidth(width), nFrameHeight(height)
-    {}
-
     void SetUp() override
     {
-        HeadlessTest::SetUp();
+        DialogTest::SetUp();
         SetHostFrameAPI(&Frame);
-        pFrame = std::make_unique<HostFrameWindow>("Host", nFrameWidth, nFrameHeight);
+        pFrame = std::make_unique<HostFrameWindow>("Host", 300, 200);
         ASSERT_TRUE(pFrame->Create());
+        Frame.SetFrameWindow(pFrame.get());
     }
     void TearDown() override
     {
@@ -35,23 +30,23 @@ protected:
         pFrame.reset();
         SetHostFrameAPI(nullptr);
         CloseRegistryStore();
-        HeadlessTest::TearDown();
+        DialogTest::TearDown();
     }
 
-    // The component entered into the frame with `command`, unpainted: the host's message loop
-    // has not turned yet. Null when the entry refused.
-    AstroNoxWindow* Enter(const char* command)
+    // The component entered into the frame with `command` as the host does, and painted.
+    AstroNoxWindow& Start(const char* command = nullptr)
     {
         const std::uint32_t handle = orbiscope(pFrame->HWindow, command);
-        return dynamic_cast<AstroNoxWindow*>(
-            GetWindowPtr(reinterpret_cast<HWND>(std::uintptr_t(handle))));
+        auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(HWND(std::uintptr_t(handle))));
+        EXPECT_NE(window, nullptr) << command;
+        Pump();
+        return *window;
     }
 
-    ScopedHome Home;
-    StandardHostFrame Frame;
+    std::vector<std::string> Launched;
+    StandardHostFrame Frame{[this](const std::string& address) {
+        Launched.push_back(address);
+        return true;
+    }};
     std::unique_ptr<HostFrameWindow> pFrame;
-
-private:
-    int nFrameWidth;
-    int nFrameHeight;
 };
