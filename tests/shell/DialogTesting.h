@@ -1,7 +1,7 @@
 #pragma once
 // What the tests of the component's dialogs share: the headless desktop, a user profile of the
-// test's own, the computer in Sydney's zone, the help topics the dialogs ask for, and the texts
-// of their fields and of the message boxes they show.
+// test's own, the computer in Sydney's zone, and the texts of their fields and of the message
+// boxes they show.
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -25,24 +25,13 @@ protected:
         const char* tz = std::getenv("TZ");
         OldTz = tz ? tz : "";
         ::setenv("TZ", "Australia/Sydney", 1);
-        PreviousHelp =
-            SetWinHelpHandler([this](HWND, const std::string&, UINT, const std::string& key) {
-                HelpKeys.push_back(key);
-                return true;
-            });
     }
     void TearDown() override
     {
-        SetWinHelpHandler(PreviousHelp);
         OldTz.empty() ? ::unsetenv("TZ") : ::setenv("TZ", OldTz.c_str(), 1);
         HeadlessTest::TearDown();
     }
 
-    // Sets a key of section "Orbiscope" in the test's own profile.
-    static void SetProfile(const std::string& key, const std::string& value)
-    {
-        ASSERT_TRUE(HostProfile().Write("Orbiscope", key, value));
-    }
     // Runs the dialog modal while `act` works it as a user would; what closed it.
     template <class Act>
     static int RunDialog(TDialog& dialog, Act act)
@@ -68,10 +57,8 @@ protected:
     }
 
     ScopedHome Home;
-    std::vector<std::string> HelpKeys;
     std::vector<std::string> Messages;
 
 private:
-    WinHelpHandler PreviousHelp;
     std::string OldTz;
 };

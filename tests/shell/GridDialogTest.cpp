@@ -1,6 +1,9 @@
 // The grid dialog: meridians shown as hours per line (fewer than 24) or lines per hour, parallels
 // as degrees per line, what is typed turned back into line counts on OK, and the refusal of
 // 21 lines per hour or more, which leaves the dialog open and the grid as it was.
+#include <cstdlib>
+#include <tuple>
+
 #include "DialogTesting.h"
 
 namespace {
@@ -9,44 +12,33 @@ using GridDialogs = DialogTest;
 
 TEST_F(GridDialogs, ShowsTheSpacingOfTheLinesAndTurnsWhatIsTypedIntoLineCounts)
 {
-    const struct
-    {
-        GridInfo Given;
-        const char* Shown; // hours per line or lines per hour, and degrees per parallel
-        int Field;
-        const char* Typed;
-        const char* TypedDegrees;
-        GridInfo Taken;
-    } cases[] = {
-        {GridInfo(12, 18, false), "2 h/line 20", GridDialog::kHoursPerLine, "3", "15",
-         GridInfo(8, 24, true)},
-        {GridInfo(48, 36, true), "2 lines/h 10", GridDialog::kLinesPerHour, "20", "7",
-         GridInfo(480, 51, true)},
-        {GridInfo(0, 0, true), "0 h/line 0", GridDialog::kLinesPerHour, "many", "0.5",
-         GridInfo(0, 0, true)},
-        {GridInfo(24, 36, false), "1 lines/h 10", GridDialog::kLinesPerHour, "21", "10",
-         GridInfo(24, 36, false)},
-        {GridInfo(24, 36, false), "1 lines/h 10", GridDialog::kLinesPerHour, "100000", "10",
-         GridInfo(24, 36, false)},
+    // The grid given, what the dialog shows of it, what the user types (meridians, then degrees
+    // per parallel) and the grid taken: the dialog refuses 21 lines per hour and keeps its grid.
+    const std::tuple<GridInfo, const char*, const char*, const char*, GridInfo> cases[] = {
+        {GridInfo(12, 18, false), "2 h/line 20", "3 h/line", "15", GridInfo(8, 24, true)},
+        {GridInfo(48, 36, true), "2 lines/h 10", "20 lines/h", "7", GridInfo(480, 51, true)},
+        {GridInfo(0, 0, true), "0 h/line 0", "many lines/h", "0.5", GridInfo(0, 0, true)},
+        {GridInfo(24, 36, false), "1 lines/h 10", "21 lines/h", "10", GridInfo(24, 36, false)},
     };
-    for (const auto& c : cases) {
+    for (const auto& [given, shown, typed, degrees, taken] : cases) {
         Messages.clear();
-        GridDialog dialog(nullptr, c.Given);
+        const std::string meridians = typed;
+        const bool perLine = meridians.find("h/line") != std::string::npos;
+        const bool refused = std::atoi(typed) > 20;
+        GridDialog dialog(nullptr, given);
         RunDialog(dialog, [&](TWindow& window) {
-            const bool perLine = dialog.IsDlgButtonChecked(GridDialog::kHoursPerLineButton);
+            const bool showsPerLine = dialog.IsDlgButtonChecked(GridDialog::kHoursPerLineButton);
             EXPECT_EQ(
-                Text(window, perLine ? GridDialog::kHoursPerLine : GridDialog::kLinesPerHour) +
-                    (perLine ? " h/line " : " lines/h ") +
+                Text(window, showsPerLine ? GridDialog::kHoursPerLine : GridDialog::kLinesPerHour) +
+                    (showsPerLine ? " h/line " : " lines/h ") +
                     Text(window, GridDialog::kDegreesPerDecLine),
-                c.Shown);
-            EXPECT_EQ(dialog.IsDlgButtonChecked(GridDialog::kShow), BST_CHECKED)
-                << "checked whatever the grid says";
-            HeadlessBackend::PressButton(window, c.Field == GridDialog::kHoursPerLine
-                                                     ? GridDialog::kHoursPerLineButton
-                                                     : GridDialog::kLinesPerHourButton);
-            HeadlessBackend::TypeInto(window, c.Field, c.Typed);
-            HeadlessBackend::TypeInto(window, GridDialog::kDegreesPerDecLine, c.TypedDegrees);
-            const bool refused = std::atoi(c.Typed) > 20;
+                shown);
+            HeadlessBackend::PressButton(window, perLine ? GridDialog::kHoursPerLineButton
+                                                         : GridDialog::kLinesPerHourButton);
+            HeadlessBackend::TypeInto(
+                window, perLine ? GridDialog::kHoursPerLine : GridDialog::kLinesPerHour,
+                meridians.substr(0, meridians.find(' ')));
+            HeadlessBackend::TypeInto(window, GridDialog::kDegreesPerDecLine, degrees);
             if (refused) {
                 AnswerMessage(IDOK);
             }
@@ -56,11 +48,9 @@ TEST_F(GridDialogs, ShowsTheSpacingOfTheLinesAndTurnsWhatIsTypedIntoLineCounts)
                 HeadlessBackend::PressButton(window, IDCANCEL);
             }
         });
-        EXPECT_EQ(dialog.GetGridInfo(), c.Taken) << c.Typed;
-        EXPECT_EQ(Messages.size(), std::atoi(c.Typed) > 20 ? 1u : 0u) << c.Typed;
-        for (const std::string& message : Messages) {
-            EXPECT_EQ(message, formatHostString(getHostString(5, 0x1005), {"21"}));
-        }
+        EXPECT_EQ(dialog.GetGridInfo(), taken) << typed;
+        EXPECT_EQ(Messages, std::vector<std::string>(
+                                refused, formatHostString(getHostString(5, 0x1005), {"21"})));
     }
 }
 

@@ -19,7 +19,6 @@ TEST_F(LocationDialogs, CitiesOfTheShippedListComeWithTheirPlacesAndZones)
 {
     const std::pair<const char*, std::string> cases[] = {
         {"rangoon", "16 47 0 N, 96 10 0 E / " + ZoneShown("Asia/Yangon")},
-        {"sydney, a", "33 55 12 S, 151 11 7 E / " + ZoneShown("Australia/Sydney")},
         {"amundsen", "89 58 58 S, 139 16 1 E / " + ZoneShown(nullptr)},
         {"london, u", "51 30 0 N, 0 7 0 W / " + ZoneShown("Europe/London")},
     };
@@ -55,7 +54,6 @@ TEST_F(LocationDialogs, CitiesOfTheShippedListComeWithTheirPlacesAndZones)
                                         getHostString(5, 0x1008), getHostString(5, 0x1072),
                                         getHostString(5, 0x1072)}));
     EXPECT_EQ(dialog.GetLocationName(), "London, United Kingdom");
-    EXPECT_DOUBLE_EQ(dialog.GetLocation().GetLatitude().GetDegrees(), 51.5);
     EXPECT_EQ(dialog.GetTimeZone().GetZoneName(), "Europe/London");
 }
 

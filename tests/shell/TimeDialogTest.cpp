@@ -11,7 +11,7 @@ TEST_F(TimeDialogs, ShowsTheLocalTimeOfTheZoneAndTakesTheTypedOneBackAsUniversal
     const TimeZone berlin = *TimeZone::GetTimeZone("Europe/Berlin");
     // 12:30 UT in July is 2:30 pm, or 14:30, in Berlin's summer time.
     for (const bool clock24 : {false, true}) {
-        SetProfile("MilitaryTime", clock24 ? "1" : "0");
+        ASSERT_TRUE(HostProfile().Write("Orbiscope", "MilitaryTime", clock24 ? "1" : "0"));
         TimeDialog dialog(nullptr, AstroTime(15, 7, 2024, 12.5), berlin, "Berlin", LatLong());
         RunDialog(dialog, [&](TWindow& window) {
             auto shown = [&](int id) {
