@@ -54,33 +54,6 @@ TEST_F(GoldenPicture, PalettePngKeepsIndexesAndColoursExactly)
     }
 }
 
-TEST_F(GoldenPicture, RgbPngKeepsColours)
-{
-    Surface s(2, 2, PixelFormat::Rgb32);
-    s.SetValue(1, 1, Surface::RgbToValue(RGB(1, 2, 250)));
-    ASSERT_TRUE(SaveSurfaceAsPng(s, PathOf("rgb.png")));
-    PngImage image;
-    ASSERT_TRUE(ReadPngFile(PathOf("rgb.png"), image));
-    EXPECT_FALSE(image.bIndexed);
-    EXPECT_EQ((std::vector<BYTE>(image.Pixels.end() - 3, image.Pixels.end())),
-              (std::vector<BYTE>{1, 2, 250}));
-}
-
-TEST_F(GoldenPicture, SamePictureMatchesAcrossFormats)
-{
-    Surface indexed(5, 4, PixelFormat::Indexed8);
-    indexed.SetValue(2, 2, 12); // blue in the host palette
-    SaveSurfaceAsPng(indexed, PathOf("golden.png"));
-
-    ImageComparison same = CompareWithPng(indexed, PathOf("golden.png"));
-    EXPECT_TRUE(same.bMatch) << same.Message;
-    EXPECT_TRUE(same.Message.empty());
-
-    Surface rgb(5, 4, PixelFormat::Rgb32);
-    rgb.SetValue(2, 2, Surface::RgbToValue(RGB(0, 0, 255)));
-    EXPECT_TRUE(CompareWithPng(rgb, PathOf("golden.png")).bMatch) << "colours are compared";
-}
-
 TEST_F(GoldenPicture, DifferenceIsLocatedAndDrawn)
 {
     Surface s(40, 30, PixelFormat::Rgb32);

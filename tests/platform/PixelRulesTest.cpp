@@ -73,43 +73,6 @@ TEST_P(PixelRules, ConsecutiveLinesJoinWithoutGapOrOverlap)
                                                     }));
 }
 
-TEST_P(PixelRules, PolylineDrawsTheSameAsLinesAndKeepsThePosition)
-{
-    Dc.SelectObject(TPen(TColor::LtRed));
-    TPoint points[] = {{1, 1}, {5, 1}, {5, 5}, {1, 5}};
-    Dc.MoveTo(7, 0);
-    ASSERT_TRUE(Dc.Polyline(points, 4));
-    EXPECT_EQ(Dc.GetCurrentPosition(), TPoint(7, 0));
-
-    Surface lines(8, 8, GetParam());
-    TClientDC other(lines);
-    other.SelectObject(TPen(TColor::LtRed));
-    other.MoveTo(1, 1);
-    other.LineTo(5, 1);
-    other.LineTo(5, 5);
-    other.LineTo(1, 5);
-    EXPECT_EQ(PictureOf(Canvas), PictureOf(lines));
-    EXPECT_FALSE(Dc.Polyline(points, 1));
-}
-
-TEST_P(PixelRules, PenOfWidthOneOrZeroDrawsSinglePixels)
-{
-    for (int width : {0, 1}) {
-        Surface s(8, 8, GetParam());
-        TClientDC dc(s);
-        dc.SelectObject(TPen(TColor::White, width));
-        dc.MoveTo(0, 2);
-        dc.LineTo(8, 5);
-        for (int x = 0; x < 8; ++x) {
-            int lit = 0;
-            for (int y = 0; y < 8; ++y) {
-                lit += s.ColorAt(x, y) == RGB(255, 255, 255);
-            }
-            EXPECT_EQ(lit, 1) << "width " << width << ", column " << x;
-        }
-    }
-}
-
 TEST_P(PixelRules, WidePenCoversItsWidthAcrossTheLine)
 {
     Dc.SelectObject(TPen(TColor::White, 3));
@@ -122,14 +85,6 @@ TEST_P(PixelRules, WidePenCoversItsWidthAcrossTheLine)
                                                         "#######.",
                                                         "........",
                                                     }));
-}
-
-TEST_P(PixelRules, NullPenDrawsNoLine)
-{
-    Dc.SelectObject(TPen(TColor::White, 1, PS_NULL));
-    Dc.MoveTo(0, 0);
-    Dc.LineTo(7, 7);
-    EXPECT_EQ(PictureOf(Canvas), PictureOf(Surface(8, 8, GetParam())));
 }
 
 TEST_P(PixelRules, FillRectLeavesOutRightColumnAndBottomRow)
