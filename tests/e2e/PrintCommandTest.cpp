@@ -38,10 +38,6 @@ TEST_F(PrintCommandTest, PrintsTheChartOfTheViewOnOneLetterPage)
                              "Center RA: 05h 36m 00.0s", "Center Dec: + 00\xC2\xB0 00' 00.0\""}) {
         EXPECT_NE(text.find(line), std::string::npos) << line << " in:\n" << text;
     }
-    // The compass's letters.
-    for (const char* letter : {"N", "W", "S", "E"}) {
-        EXPECT_NE(text.find(letter), std::string::npos) << letter;
-    }
 }
 
 TEST_F(PrintCommandTest, TheViewFromTheGroundPrintsOnA4ByDefault)

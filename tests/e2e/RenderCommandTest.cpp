@@ -278,7 +278,11 @@ TEST_F(RenderCommandTest, OnADisplayTheProgramShowsTheMapInItsFrameAndEndsWhenTo
                              "info:)\n"
                           << "  [ \"$red\" -gt 100 ] && break\n"
                           << "done\n"
+                          // A program that does not end when told is killed after ten seconds,
+                          // so that the test fails rather than waits for ever.
                           << "kill -TERM $pid\n"
+                          << "i=0; while kill -0 $pid 2>/dev/null && [ $i -lt 100 ]; do sleep 0.1; "
+                             "i=$((i+1)); done; kill -KILL $pid 2>/dev/null\n"
                           << "wait $pid\n"
                           << "echo $? > exit.txt\n";
     // SDL under X opens libdbus, which leaks at exit beyond any tracing; the window system's

@@ -244,6 +244,10 @@ TEST(TDibFromFile, ReadsBmpAndPngFilesAndRefusesMissingOnes)
     EXPECT_EQ(fromPng.GetPixelIndex(0, 0), 15);
     EXPECT_EQ(fromPng.GetPixelIndex(2, 1), 200);
     EXPECT_EQ(fromPng.GetColor(200), TColor(s.ColorTable()[200]));
+    Surface rgb(2, 2, PixelFormat::Rgb32);
+    rgb.SetValue(1, 0, Surface::RgbToValue(RGB(12, 34, 56)));
+    ASSERT_TRUE(SaveSurfaceAsPng(rgb, pngPath));
+    EXPECT_EQ(TDib(pngPath).GetPixelColor(1, 0), TColor(12, 34, 56)) << "a true-colour PNG";
 
     std::remove(bmpPath.c_str());
     std::remove(pngPath.c_str());

@@ -3,6 +3,7 @@
 // A cancelled dialog changes nothing. The default state is written after a new place and the
 // display toggles, and only once the map has a place.
 #include <functional>
+#include <tuple>
 
 #include "ComponentInFrame.h"
 #include "platform/TListBox.h"

@@ -32,7 +32,6 @@ protected:
 TEST_F(ComboBoxes, ClickDropsTheListBelowAndAClickOnARowOrOutsideClosesIt)
 {
     TComboBox& combo = Make(CBS_DROPDOWNLIST);
-    EXPECT_LT(combo.GetClientRect().Height(), 30) << "one line high while closed";
     combo.SetSelIndex(0);
     Desk().Click(combo, TPoint(80, 8));
     ASSERT_TRUE(combo.IsListShown());

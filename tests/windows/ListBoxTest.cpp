@@ -40,8 +40,6 @@ protected:
 TEST_F(ListBoxes, SortedRowsAreFoundByTheirBeginningFromTheRowAfterTheStartRoundAgain)
 {
     // Aberdeen, Adelaide, Sydney, Syracuse, Tokyo
-    EXPECT_EQ(pList->GetString(0), "Aberdeen, Scotland");
-    EXPECT_EQ(pList->GetString(4), "Tokyo, Japan");
     const std::tuple<UINT, int, const char*, LRESULT> cases[] = {
         {LB_FINDSTRING, -1, "sy", 2},
         {LB_FINDSTRING, 2, "SY", 3},

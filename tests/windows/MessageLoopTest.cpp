@@ -197,6 +197,20 @@ TEST_F(MessageLoop, CaptureKeepsTheDragAndKeysGoToTheFocus)
     EXPECT_EQ(GetActiveWindow(), other.HWindow) << "the focus brings its window to the front";
 }
 
+TEST_F(MessageLoop, DisabledAndHiddenWindowsTakeNoInput)
+{
+    Recorder w;
+    w.Create();
+    Pump();
+    w.Log.clear();
+    w.EnableWindow(false);
+    Desk().Click(w, TPoint(10, 10));
+    w.EnableWindow(true);
+    w.Show(SW_HIDE);
+    Desk().Click(w, TPoint(10, 10));
+    EXPECT_TRUE(w.Log.empty());
+}
+
 TEST_F(MessageLoop, LoopRunsUntilQuitAndSaysWhenNothingCanCome)
 {
     Recorder w;

@@ -114,7 +114,6 @@ TEST_F(SdlDummy, SdlEventsBecomeMessagesAndTimersRunOnSdlsClock)
         }
     }
     EXPECT_EQ(w.Log, std::vector<std::string>{"timer"});
-    EXPECT_GE(GetTickCount() - start, 30u);
     w.Destroy();
 }
 

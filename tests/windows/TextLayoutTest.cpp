@@ -21,7 +21,6 @@ TEST(TextInRectangle, WordsWrapAtTheWidthLineFeedsBreakAndLongWordsAreCut)
         << "without DT_WORDBREAK only line feeds break";
     EXPECT_EQ(TextLayout(dc, "Orion\nCancer", line, DT_SINGLELINE).GetLines(),
               std::vector<std::string>{"Orion Cancer"});
-    EXPECT_EQ(TextLayout(dc, "&No", 100, 0).GetLines().front(), "No") << "a mnemonic mark";
 
     TextLayout cut(dc, "Andromeda", width("Andro"), DT_WORDBREAK);
     std::string joined;
