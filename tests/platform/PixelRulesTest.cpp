@@ -73,6 +73,25 @@ TEST_P(PixelRules, ConsecutiveLinesJoinWithoutGapOrOverlap)
                                                     }));
 }
 
+// A pen of width 0 draws as one of width 1: a single pixel in each column.
+TEST_P(PixelRules, PenOfWidthOneOrZeroDrawsSinglePixels)
+{
+    for (int width : {0, 1}) {
+        Surface s(8, 8, GetParam());
+        TClientDC dc(s);
+        dc.SelectObject(TPen(TColor::White, width));
+        dc.MoveTo(0, 2);
+        dc.LineTo(8, 5);
+        for (int x = 0; x < 8; ++x) {
+            int lit = 0;
+            for (int y = 0; y < 8; ++y) {
+                lit += s.ColorAt(x, y) == RGB(255, 255, 255);
+            }
+            EXPECT_EQ(lit, 1) << "width " << width << ", column " << x;
+        }
+    }
+}
+
 TEST_P(PixelRules, WidePenCoversItsWidthAcrossTheLine)
 {
     Dc.SelectObject(TPen(TColor::White, 3));
@@ -420,8 +439,11 @@ TEST_P(PixelRules, PaletteIndexAndPaletteRelativeColours)
     Dc.SetPixel(0, 0, TColor::PaletteIndex(12));
     EXPECT_EQ(Canvas.ColorAt(0, 0), RGB(0, 0, 255)) << "entry 12 of the host palette is blue";
     Dc.SetPixel(1, 0, TColor(PALETTERGB(250, 120, 5)));
-    EXPECT_EQ(Canvas.ColorAt(1, 0),
-              GetParam() == PixelFormat::Indexed8 ? RGB(255, 128, 0) : RGB(250, 120, 5));
+    Dc.SetPixel(4, 0, TColor(250, 120, 5).PalRelative());
+    for (int x : {1, 4}) {
+        EXPECT_EQ(Canvas.ColorAt(x, 0),
+                  GetParam() == PixelFormat::Indexed8 ? RGB(255, 128, 0) : RGB(250, 120, 5));
+    }
 
     PALETTEENTRY own[2] = {{0, 0, 0, 0}, {10, 200, 30, 0}};
     TPalette palette(own, 2);

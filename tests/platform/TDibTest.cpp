@@ -256,26 +256,6 @@ TEST(TDibFromFile, ReadsBmpAndPngFilesAndRefusesMissingOnes)
     EXPECT_NE(capture.Text.find("cannot open"), std::string::npos);
 }
 
-TEST(TDibBlank, DepthFollowsTheColourCountAndRowsArePaddedBottomUp)
-{
-    EXPECT_EQ(TDib(4, 4, 2).BitsPixel(), 1);
-    EXPECT_EQ(TDib(4, 4, 16).BitsPixel(), 4);
-    EXPECT_EQ(TDib(4, 4, 227).BitsPixel(), 8);
-    EXPECT_EQ(TDib(4, 4, 0).BitsPixel(), 24);
-    EXPECT_FALSE(TDib(0, 4, 8).IsOK());
-
-    TDib dib(49, 49, 172);
-    EXPECT_EQ(dib.Pitch(), 52);
-    EXPECT_TRUE(dib.SetPixelIndex(48, 0, 171));
-    EXPECT_EQ(static_cast<BYTE*>(dib.GetBits())[48 * 52 + 48], 171) << "top row is last in memory";
-    EXPECT_FALSE(dib.SetPixelIndex(49, 0, 1));
-    EXPECT_FALSE(dib.SetPixelIndex(0, 0, 256));
-    EXPECT_EQ(dib.GetPixelColor(0, 49), TColor(CLR_INVALID));
-    TDib copy(dib);
-    copy.SetPixelIndex(48, 0, 3);
-    EXPECT_EQ(dib.GetPixelIndex(48, 0), 171) << "a copy has its own pixels";
-}
-
 TEST(ModulePictures, NamedPicturesComeFromTheTable)
 {
     // tests/platform/resources/TESTCARD.bmp: rows red-white-black-white-red,
