@@ -26,7 +26,7 @@ TEST_F(GridDialogs, ShowsTheSpacingOfTheLinesAndTurnsWhatIsTypedIntoLineCounts)
         const bool perLine = meridians.find("h/line") != std::string::npos;
         const bool refused = std::atoi(typed) > 20;
         GridDialog dialog(nullptr, given);
-        RunDialog(dialog, [&](TWindow& window) {
+        RunDialog(dialog, [&, shown = shown, degrees = degrees](TWindow& window) {
             const bool showsPerLine = dialog.IsDlgButtonChecked(GridDialog::kHoursPerLineButton);
             EXPECT_EQ(
                 Text(window, showsPerLine ? GridDialog::kHoursPerLine : GridDialog::kLinesPerHour) +
