@@ -30,17 +30,6 @@ target_sources(orbiscope_core PRIVATE ${orbiscope_window_backends})
 pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
 target_link_libraries(orbiscope_core PUBLIC PkgConfig::SDL2)
 
-# The end-to-end tests run the window demo of app/; they learn where it is built. The targets
-# exist only after the whole tree is read, hence the deferred call.
-function(orbiscope_e2e_needs_windemo)
-  if(TARGET test_e2e AND TARGET orbiscope_windemo)
-    add_dependencies(test_e2e orbiscope_windemo)
-    target_compile_definitions(test_e2e
-                               PRIVATE ORBISCOPE_WINDEMO="$<TARGET_FILE:orbiscope_windemo>")
-  endif()
-endfunction()
-cmake_language(DEFER DIRECTORY "${CMAKE_SOURCE_DIR}" CALL orbiscope_e2e_needs_windemo)
-
 # Printed pages become PDF files through cairo, with their text in the fonts fontconfig finds.
 pkg_check_modules(ORBISCOPE_PRINTING REQUIRED IMPORTED_TARGET cairo cairo-pdf cairo-ft)
 target_link_libraries(orbiscope_core PUBLIC PkgConfig::ORBISCOPE_PRINTING)

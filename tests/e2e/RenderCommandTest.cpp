@@ -14,6 +14,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "ProgramTest.h"
@@ -40,21 +41,9 @@ class RenderCommandTest : public ProgramTest
 protected:
     RenderCommandTest() : ProgramTest("orbiscope-render") {}
 
-    // Renders one view at 2000 January 1, 0h UT, and compares it with its golden picture. The
-    // default limit leaves the stars out, so that the picture shows the grid and the Sun, Moon
-    // and planets that stand in the view at that moment.
-    void ExpectGolden(const std::string& name, const std::string& center, const std::string& radius,
-                      const std::string& limit = "-30", bool grid = true)
-    {
-        std::vector<std::string> view = {"--center", center, "--radius", radius, "--limit", limit};
-        if (grid) {
-            view.push_back("--grid");
-        }
-        ExpectGoldenView(name, view);
-    }
-
     // Renders the view the options give at 2000 January 1, 0h UT, 800 by 600, and compares
-    // it with its golden picture.
+    // it with its golden picture. A limit of -30 leaves the stars out, so that the picture
+    // shows the grid and the Sun, Moon and planets that stand in the view at that moment.
     void ExpectGoldenView(const std::string& name, const std::vector<std::string>& view)
     {
         const fs::path picture = Dir / (name + ".png");
@@ -93,9 +82,12 @@ protected:
 // constellations' names, shown by default).
 TEST_F(RenderCommandTest, TheGridAtTheEquatorThePoleAndFortyFiveSouthMatchesItsPictures)
 {
-    ExpectGolden("grid-equator-radius30", "0,0", "30");
-    ExpectGolden("grid-north-pole-radius60", "0,90", "60");
-    ExpectGolden("grid-dec-minus45-radius90", "0,-45", "90");
+    for (const auto& [name, center, radius] : {std::tuple{"grid-equator-radius30", "0,0", "30"},
+                                               {"grid-north-pole-radius60", "0,90", "60"},
+                                               {"grid-dec-minus45-radius90", "0,-45", "90"}}) {
+        ExpectGoldenView(name,
+                         {"--center", center, "--radius", radius, "--limit", "-30", "--grid"});
+    }
 }
 
 // The stars must not change unseen: Orion at radius 20 to magnitude 6.5 (the belt in the
@@ -104,8 +96,10 @@ TEST_F(RenderCommandTest, TheGridAtTheEquatorThePoleAndFortyFiveSouthMatchesItsP
 // constellations' names, shown by default, stand in orange on their points.
 TEST_F(RenderCommandTest, StarsOfOrionAndOfTheNorthernSkyMatchTheirPictures)
 {
-    ExpectGolden("stars-orion-radius20", "84,0", "20", "6.5", false);
-    ExpectGolden("stars-north-pole-radius90", "0,90", "90", "6", true);
+    ExpectGoldenView("stars-orion-radius20",
+                     {"--center", "84,0", "--radius", "20", "--limit", "6.5"});
+    ExpectGoldenView("stars-north-pole-radius90",
+                     {"--center", "0,90", "--radius", "90", "--limit", "6", "--grid"});
 }
 
 // The view from the ground must not change unseen: from latitude 50 N, longitude 0, looking
@@ -284,7 +278,11 @@ TEST_F(RenderCommandTest, OnADisplayTheProgramShowsTheMapInItsFrameAndEndsWhenTo
                              "info:)\n"
                           << "  [ \"$red\" -gt 100 ] && break\n"
                           << "done\n"
+                          // A program that does not end when told is killed after ten seconds,
+                          // so that the test fails rather than waits for ever.
                           << "kill -TERM $pid\n"
+                          << "i=0; while kill -0 $pid 2>/dev/null && [ $i -lt 100 ]; do sleep 0.1; "
+                             "i=$((i+1)); done; kill -KILL $pid 2>/dev/null\n"
                           << "wait $pid\n"
                           << "echo $? > exit.txt\n";
     // SDL under X opens libdbus, which leaks at exit beyond any tracing; the window system's

@@ -129,29 +129,6 @@ TEST_P(Blit, DestinationInvertTwiceRestores)
     EXPECT_EQ(ColorsOf(Target), before);
 }
 
-TEST_P(Blit, PatternOperationsUseTheBrush)
-{
-    TargetDc.SelectObject(TBrush(TColor::LtYellow));
-    ASSERT_TRUE(TargetDc.BitBlt(0, 0, 2, 1, nullptr, 0, 0, PATCOPY));
-    TargetDc.BitBlt(2, 0, 2, 1, nullptr, 0, 0, WHITENESS);
-    TargetDc.BitBlt(2, 0, 1, 1, nullptr, 0, 0, BLACKNESS);
-    EXPECT_EQ(PictureOf(Target, TRect(0, 0, 5, 1)), Rows({"yy.#."}));
-    EXPECT_FALSE(TargetDc.BitBlt(0, 0, 2, 2, nullptr, 0, 0, SRCCOPY)) << "no source to copy";
-}
-
-TEST_P(Blit, SourceInvertTwiceRestoresAndNotSourceCopyInverts)
-{
-    Paint(TargetDc, {"rgbym#", "#.#.#.", "......", "######"});
-    Paint(SourceDc, {"#.#.#.", "######", "#.....", "rgbym#"});
-    std::vector<COLORREF> before = ColorsOf(Target);
-    TargetDc.BitBlt(0, 0, 6, 4, SourceDc, 0, 0, SRCINVERT);
-    TargetDc.BitBlt(0, 0, 6, 4, SourceDc, 0, 0, SRCINVERT);
-    EXPECT_EQ(ColorsOf(Target), before);
-
-    TargetDc.BitBlt(0, 0, 6, 2, SourceDc, 0, 0, NOTSRCCOPY);
-    EXPECT_EQ(PictureOf(Target, TRect(0, 0, 6, 2)), Rows({".#.#.#", "......"}));
-}
-
 TEST_P(Blit, StretchTakesTheNearestPixel)
 {
     Paint(SourceDc, {"rg", "b#"});
@@ -235,18 +212,6 @@ TEST(StretchDIBits, DrawsABottomUpPictureTheRightWayUp)
                                 }));
         EXPECT_EQ(dc.StretchDIBits(TRect(0, 0, 4, 6), TRect(0, 0, 2, 3), TDib("no such file")), 0);
     }
-}
-
-TEST(StretchDIBits, SourceRowsOfABottomUpPictureCountFromTheBottom)
-{
-    TDib dib(1, 4, 2);
-    dib.SetColor(1, TColor::White);
-    dib.SetPixelIndex(0, 3, 1); // the bottom row
-    Surface s(1, 1, PixelFormat::Rgb32);
-    TClientDC dc(s);
-    dc.StretchDIBits(0, 0, 1, 1, 0, 0, 1, 1, dib.GetBits(), *dib.GetInfo(), DIB_RGB_COLORS,
-                     SRCCOPY);
-    EXPECT_EQ(s.ColorAt(0, 0), RGB(255, 255, 255));
 }
 
 TEST(TBitmapFromDib, KeepsColoursOrMapsThemToThePalette)

@@ -70,24 +70,6 @@ protected:
     void* pBits = nullptr;
 };
 
-TEST_F(DibSection, GetObjectGivesTheHeaderAndTheBits)
-{
-    ASSERT_NE(Handle, nullptr);
-    DIBSECTION ds{};
-    ASSERT_EQ(GetObjectA(Handle, sizeof ds, &ds), int(sizeof ds));
-    EXPECT_EQ(ds.dsBmih.biWidth, kWidth);
-    EXPECT_EQ(ds.dsBmih.biHeight, kHeight);
-    EXPECT_EQ(ds.dsBmih.biBitCount, 8);
-    EXPECT_EQ(ds.dsBmih.biSizeImage, DWORD(kWidth * kHeight));
-    EXPECT_EQ(ds.dsBm.bmWidthBytes, kWidth);
-    EXPECT_EQ(ds.dsBm.bmBits, pBits);
-
-    BITMAP bm{};
-    EXPECT_EQ(GetObjectA(Handle, sizeof bm, &bm), int(sizeof bm));
-    EXPECT_EQ(bm.bmHeight, kHeight);
-    EXPECT_EQ(GetObjectA(Handle, 4, &bm), 0) << "too small a buffer";
-}
-
 TEST_F(DibSection, BitsAreBottomUpAndShowThroughTheContext)
 {
     TBitmap wrapper(Handle, NoAutoDelete);
@@ -123,23 +105,6 @@ TEST_F(DibSection, TwoPixelStarIsWrittenOnlyWhereTheSkyIs)
     EXPECT_EQ(Dc.GetPixel(12, 10), TColor(0, 0, 0x60));
 }
 
-TEST_F(DibSection, StrideIsTheWidthRoundedToFourBytes)
-{
-    InfoWithTable info = MapHeader(101, 3);
-    void* bits = nullptr;
-    HBITMAP odd = CreateDIBSection(Dc, info.Info(), DIB_PAL_COLORS, &bits, nullptr, 0);
-    BITMAP bm{};
-    GetObjectA(odd, sizeof bm, &bm);
-    EXPECT_EQ(bm.bmWidthBytes, 104);
-    DeleteObject(odd);
-
-    info = MapHeader(104, 3);
-    HBITMAP even = CreateDIBSection(Dc, info.Info(), DIB_PAL_COLORS, &bits, nullptr, 0);
-    GetObjectA(even, sizeof bm, &bm);
-    EXPECT_EQ(bm.bmWidthBytes, 104);
-    DeleteObject(even);
-}
-
 TEST_F(DibSection, DeletingTheHandleWhileSelectedKeepsTheContextWorking)
 {
     {
@@ -157,45 +122,6 @@ TEST_F(DibSection, DeletingTheHandleWhileSelectedKeepsTheContextWorking)
     Handle = nullptr;
 }
 
-TEST_F(DibSection, OwnColourTableWithRgbColours)
-{
-    struct
-    {
-        BITMAPINFOHEADER Header;
-        RGBQUAD Colors[2];
-    } info{};
-    info.Header = MapHeader(8, 2).Header;
-    info.Header.biClrUsed = 2;
-    info.Colors[1] = RGBQUAD{10, 20, 30, 0};
-    void* bits = nullptr;
-    HBITMAP handle = CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS,
-                                      &bits, nullptr, 0);
-    ASSERT_NE(handle, nullptr);
-    static_cast<BYTE*>(bits)[3] = 1;
-    TBitmap wrapper(handle, AutoDelete);
-    TMemoryDC dc;
-    dc.SelectObject(wrapper);
-    EXPECT_EQ(dc.GetPixel(3, 1), TColor(30, 20, 10));
-    EXPECT_EQ(dc.GetPixel(2, 1), TColor::Black) << "entries beyond the table are black";
-}
-
-TEST_F(DibSection, TopDownRgbSection)
-{
-    BITMAPINFO info{};
-    info.bmiHeader = MapHeader(4, -2).Header;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biClrUsed = 0;
-    void* bits = nullptr;
-    HBITMAP handle = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    ASSERT_NE(handle, nullptr);
-    BYTE orange[4] = {0, 128, 255, 0}; // blue, green, red
-    std::memcpy(bits, orange, 4);
-    TBitmap wrapper(handle, AutoDelete);
-    TMemoryDC dc;
-    dc.SelectObject(wrapper);
-    EXPECT_EQ(dc.GetPixel(0, 0), TColor(255, 128, 0)) << "a negative height is top-down";
-}
-
 TEST_F(DibSection, RefusesHeadersItCannotHonour)
 {
     auto refused = [&](auto change) {
@@ -211,22 +137,6 @@ TEST_F(DibSection, RefusesHeadersItCannotHonour)
     EXPECT_TRUE(refused([](BITMAPINFOHEADER& h) { h.biCompression = BI_RLE8; }));
     EXPECT_TRUE(refused([](BITMAPINFOHEADER& h) { h.biWidth = 1 << 20; }));
     EXPECT_EQ(CreateDIBSection(Dc, nullptr, DIB_PAL_COLORS, nullptr, nullptr, 0), nullptr);
-}
-
-TEST_F(DibSection, CompatibleBitmapTakesTheFormatAndColoursOfTheContext)
-{
-    TBitmap wrapper(Handle, NoAutoDelete);
-    Dc.SelectObject(wrapper);
-    TBitmap compatible(Dc, 5, 4);
-    ASSERT_TRUE(compatible.GetObject());
-    const Surface& s = compatible.GetObject()->GetSurface();
-    EXPECT_TRUE(s.IsIndexed());
-    EXPECT_EQ(s.ColorTable(), Dc.GetSurface().ColorTable());
-    EXPECT_EQ(compatible.Size(), TSize(5, 4));
-
-    TMemoryDC screenLike;
-    TBitmap rgb(screenLike, 3, 3);
-    EXPECT_FALSE(rgb.GetObject()->GetSurface().IsIndexed());
 }
 
 } // namespace

@@ -64,25 +64,4 @@ TEST(ClientArea, ClipRegionsAreInTheContextsCoordinatesAndCannotWidenIt)
     EXPECT_EQ(dc.SelectClipRgn(TRegion(TRect(100, 100, 110, 110))), NULLREGION);
 }
 
-TEST(ClientArea, MappingAndCopiesUseTheContextsCoordinates)
-{
-    Part part;
-    TClientDC dc(part);
-    dc.SetViewportOrg(TPoint(3, 4));
-    TPoint p(1, 1);
-    dc.LPtoDP(&p);
-    EXPECT_EQ(p, TPoint(4, 5)) << "device points count from the part's corner";
-    dc.DPtoLP(&p);
-    EXPECT_EQ(p, TPoint(1, 1));
-    dc.SetPixel(1, 1, TColor(kRed));
-    EXPECT_EQ(part.Pixels.ColorAt(14, 15), kRed);
-
-    // As the source of a copy the part gives its own pixels.
-    dc.SetViewportOrg(TPoint(0, 0));
-    Surface copy(5, 5, PixelFormat::Rgb32);
-    TClientDC target(copy);
-    ASSERT_TRUE(target.BitBlt(0, 0, 5, 5, dc, 2, 3, SRCCOPY));
-    EXPECT_EQ(copy.ColorAt(2, 2), kRed);
-}
-
 } // namespace

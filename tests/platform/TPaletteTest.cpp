@@ -57,42 +57,4 @@ TEST(TPalette, NearestEntryTakesTheLowestIndexAmongEquals)
     EXPECT_EQ(GetNearestPaletteIndex(palette, RGB(99, 1, 1)), 1u);
 }
 
-TEST(TPalette, ChangedEntriesChangeTheAnswer)
-{
-    PALETTEENTRY entries[] = {{0, 0, 0, 0}, {255, 255, 255, 0}};
-    TPalette palette(entries, 2);
-    EXPECT_EQ(palette.GetNearestPaletteIndex(TColor(200, 200, 0)), 1u);
-    PALETTEENTRY red = {255, 0, 0, 0};
-    EXPECT_EQ(palette.SetPaletteEntries(0, 1, &red), 1u);
-    EXPECT_EQ(palette.GetNearestPaletteIndex(TColor(200, 200, 0)), 0u);
-    EXPECT_EQ(palette.SetPaletteEntries(5, 1, &red), 0u) << "beyond the palette";
-
-    PALETTEENTRY read[2]{};
-    EXPECT_EQ(palette.GetPaletteEntries(0, 5, read), 2u);
-    EXPECT_EQ(read[0].peRed, 255);
-}
-
-TEST(TPalette, CopiesAreIndependentAndHandlesDieWithTheirOwner)
-{
-    PALETTEENTRY entries[] = {{1, 2, 3, 0}};
-    HPALETTE handle;
-    {
-        TPalette original(entries, 1);
-        TPalette copy(original);
-        EXPECT_NE(copy.GetHandle(), original.GetHandle());
-        PALETTEENTRY other = {9, 9, 9, 0};
-        copy.SetPaletteEntries(0, 1, &other);
-        PALETTEENTRY read{};
-        original.GetPaletteEntries(0, 1, &read);
-        EXPECT_EQ(read.peRed, 1);
-        handle = original.GetHandle();
-        TPalette wrapper(handle);
-        EXPECT_TRUE(wrapper.IsOK());
-    }
-    EXPECT_EQ(GetNearestPaletteIndex(handle, RGB(0, 0, 0)), CLR_INVALID);
-    TPalette stale(handle);
-    EXPECT_FALSE(stale.IsOK());
-    EXPECT_EQ(stale.GetNumEntries(), 0);
-}
-
 } // namespace

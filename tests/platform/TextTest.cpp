@@ -126,19 +126,6 @@ TEST(Fonts, ExtentOfALabelInTimesNewRoman)
     EXPECT_EQ(size, TSize(19, 15));
 }
 
-TEST(Fonts, WidthScalesTheCharacters)
-{
-    Surface s(4, 4, PixelFormat::Rgb32);
-    TClientDC dc(s);
-    dc.SelectObject(TFont("Courier", 10, 10));
-    TEXTMETRIC wide{};
-    dc.GetTextMetrics(wide);
-    EXPECT_EQ(wide.tmAveCharWidth, 10);
-    TSize wideExtent = dc.GetTextExtent("Status");
-    dc.SelectObject(TFont("Courier", 10));
-    EXPECT_LT(dc.GetTextExtent("Status").cx * 3 / 2, wideExtent.cx);
-}
-
 TEST(Fonts, UnknownFaceFallsBackAndStillMeasures)
 {
     Surface s(4, 4, PixelFormat::Rgb32);
@@ -219,20 +206,6 @@ TEST_P(Text, OpaqueTextFillsExactlyItsCell)
     EXPECT_EQ(Canvas.ColorAt(3, 2), RGB(0, 0, 255));
 }
 
-TEST_P(Text, SameTextDrawsTheSamePixelsAnywhere)
-{
-    Surface wide(90, 40, GetParam());
-    TClientDC dc(wide);
-    dc.SelectObject(TFont("Arial", -13));
-    dc.SetTextColor(TColor::LtYellow);
-    dc.SetBkMode(TRANSPARENT);
-    dc.TextOut(0, 0, "Moon");
-    dc.TextOut(45, 19, "Moon");
-    TSize e = dc.GetTextExtent("Moon");
-    ASSERT_LT(e.cx, 45);
-    EXPECT_EQ(PictureOf(wide, TRect(TPoint(0, 0), e)), PictureOf(wide, TRect(TPoint(45, 19), e)));
-}
-
 TEST_P(Text, ExtTextOutFillsAndClipsToItsRectangle)
 {
     Dc.SetBkMode(TRANSPARENT);
@@ -250,26 +223,6 @@ TEST_P(Text, ExtTextOutFillsAndClipsToItsRectangle)
     other.SetTextColor(TColor::White);
     other.ExtTextOut(12, 3, 0, &box, "Pointer Position");
     EXPECT_GT(InkBox(unclipped, RGB(0, 0, 0)).right, box.right) << "without ETO_CLIPPED";
-}
-
-TEST_P(Text, AdvancesCanBeGiven)
-{
-    Dc.SetBkMode(TRANSPARENT);
-    int dx[] = {20, 20};
-    Dc.ExtTextOut(0, 0, 0, nullptr, "II", 2, dx);
-    TRect ink = InkBox(Canvas, RGB(0, 0, 0));
-    ASSERT_FALSE(ink.IsEmpty());
-    EXPECT_GT(ink.Width(), 20);
-    EXPECT_EQ(PictureOf(Canvas, TRect(ink.left, 0, ink.left + 4, 24)),
-              PictureOf(Canvas, TRect(ink.left + 20, 0, ink.left + 24, 24)))
-        << "the second I stands 20 pixels after the first";
-}
-
-TEST_P(Text, NothingToDrawIsNoFailure)
-{
-    EXPECT_TRUE(Dc.TextOut(0, 0, "", 0));
-    EXPECT_TRUE(Dc.TextOut(0, 0, nullptr));
-    EXPECT_EQ(InkBox(Canvas, RGB(0, 0, 0)), TRect());
 }
 
 TEST(TextOnAScaledContext, MeasuresInLogicalUnits)

@@ -1,57 +1,56 @@
 #pragma once
-// The shared set-up of the component's window tests: a host frame window in a temporary
-// settings home, into which a test enters the component as the host does.
-#include <gtest/gtest.h>
-
+// The shared set-up of the component's window tests: a host frame window, into which a test
+// enters the component as the host does, and the article addresses the host is asked to open;
+// with what the dialog tests have, for the dialogs the component opens.
 #include <cstdint>
-#include <memory>
 
+#include "DialogTesting.h"
 #include "host/HostFrameAPI.h"
 #include "host/HostFrameWindow.h"
-#include "host/ScopedHome.h"
 #include "platform/Registry.h"
-#include "platform/WindowCalls.h"
 #include "shell/AstroNoxWindow.h"
 #include "shell/OrbiscopeEntry.h"
-#include "windows/HeadlessFixture.h"
+#include "skyview/MapWindow.h"
 
-class ComponentInFrame : public HeadlessTest
+class ComponentInFrame : public DialogTest
 {
 protected:
-    explicit ComponentInFrame(int width = 300, int height = 200)
-        : nFrameWidth(width), nFrameHeight(height)
-    {}
-
     void SetUp() override
     {
-        HeadlessTest::SetUp();
+        DialogTest::SetUp();
         SetHostFrameAPI(&Frame);
-        pFrame = std::make_unique<HostFrameWindow>("Host", nFrameWidth, nFrameHeight);
-        ASSERT_TRUE(pFrame->Create());
+        ASSERT_TRUE(FrameWindow.Create());
+        Frame.SetFrameWindow(&FrameWindow);
     }
     void TearDown() override
     {
-        pFrame->Destroy();
-        pFrame.reset();
+        FrameWindow.Destroy();
         SetHostFrameAPI(nullptr);
         CloseRegistryStore();
-        HeadlessTest::TearDown();
+        DialogTest::TearDown();
     }
 
-    // The component entered into the frame with `command`, unpainted: the host's message loop
-    // has not turned yet. Null when the entry refused.
-    AstroNoxWindow* Enter(const char* command)
+    // The component entered into the frame with `command` as the host does, unpainted: the
+    // host's loop has not turned yet.
+    AstroNoxWindow& Enter(const char* command)
     {
-        const std::uint32_t handle = orbiscope(pFrame->HWindow, command);
-        return dynamic_cast<AstroNoxWindow*>(
-            GetWindowPtr(reinterpret_cast<HWND>(std::uintptr_t(handle))));
+        const std::uint32_t handle = orbiscope(FrameWindow.HWindow, command);
+        auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(HWND(std::uintptr_t(handle))));
+        EXPECT_NE(window, nullptr) << command;
+        return *window;
+    }
+    // The component entered and painted.
+    AstroNoxWindow& Start(const char* command = nullptr)
+    {
+        AstroNoxWindow& window = Enter(command);
+        Pump();
+        return window;
     }
 
-    ScopedHome Home;
-    StandardHostFrame Frame;
-    std::unique_ptr<HostFrameWindow> pFrame;
-
-private:
-    int nFrameWidth;
-    int nFrameHeight;
+    std::vector<std::string> Launched;
+    StandardHostFrame Frame{[this](const std::string& address) {
+        Launched.push_back(address);
+        return true;
+    }};
+    HostFrameWindow FrameWindow{"Host", 300, 200};
 };

@@ -27,7 +27,6 @@ public:
     }
 
     std::vector<Notification> Notes;
-    std::vector<std::pair<UINT, int>> Scrolls;
 
     int Count(int id, UINT code) const
     {
@@ -42,8 +41,6 @@ public:
     {
         if (msg == WM_COMMAND) {
             Notes.push_back(Notification{int(LOWORD(wParam)), UINT(HIWORD(wParam))});
-        } else if (msg == WM_VSCROLL || msg == WM_HSCROLL) {
-            Scrolls.emplace_back(UINT(LOWORD(wParam)), int(short(HIWORD(wParam))));
         }
         return TWindow::WindowProc(msg, wParam, lParam);
     }
