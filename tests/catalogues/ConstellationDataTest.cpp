@@ -6,12 +6,10 @@
 
 #include "StarIndexTesting.h"
 #include "catalogues/ConstellationCatalogue.h"
-#include "host/HostProf.h"
 
 TEST(ConstellationDataTest, EachOfThe88HasAFigureABoundaryAndItsNameWithinIt)
 {
     ScratchDirectory home; // the shipped profile alone
-    HostProfile().Reload();
     ConstellationCatalogue::FlushNameInfo();
     ConstellationCatalogue catalogue;
     catalogue.UseSettings(ConstellationSettings(true, true, true));
@@ -45,5 +43,4 @@ TEST(ConstellationDataTest, EachOfThe88HasAFigureABoundaryAndItsNameWithinIt)
     EXPECT_FALSE(orion.GetBoundaryRange().Contains(PolarCoord(88.7929, 30.0)));
     EXPECT_TRUE(endsALine(*catalogue.GetConstellation("UMi", true), PolarCoord(37.9546, 89.2641)));
     ConstellationCatalogue::FlushNameInfo();
-    HostProfile().Reload();
 }

@@ -14,12 +14,7 @@ namespace {
 class ConstellationDrawTest : public ConstellationFilesTest
 {
 protected:
-    void SetUp() override
-    {
-        ConstellationFilesTest::SetUp();
-        pCatalogue = Catalogue("Orion, Ori\nLyra, Lyr\n");
-        Canvas.Parameters.pTransformation = &View;
-    }
+    ConstellationDrawTest() { Canvas.Parameters.pTransformation = &View; }
 
     TPoint At(double ra, double dec)
     {
@@ -43,7 +38,7 @@ protected:
 
     const TColor Green{0, 255, 0};
     const TColor Red{255, 0, 0};
-    std::unique_ptr<ConstellationCatalogue> pCatalogue;
+    std::unique_ptr<ConstellationCatalogue> pCatalogue = Catalogue("Orion, Ori\nLyra, Lyr\n");
     SkyCanvas Canvas{64, 48};
     Transformation View{Canvas.GetDC(), Canvas.Parameters.DrawRect, PolarCoord(0.0, 0.0), 20.0,
                         PolarCoord(0.0, 90.0)};

@@ -9,7 +9,6 @@
 
 #include "StarIndexTesting.h"
 #include "catalogues/ConstellationCatalogue.h"
-#include "host/HostProf.h"
 
 // Five constellations of the real table, in its order, with invented figures and boundaries
 // where a test needs them.
@@ -33,12 +32,7 @@ protected:
                           "\nConstellationBoundaryFile = " + Dir.File("bounds.txt") + "\n");
         HostProfile().Reload();
     }
-    void TearDown() override
-    {
-        ConstellationCatalogue::FlushNameInfo();
-        Dir.WriteFile("orbiscope.ini", "");
-        HostProfile().Reload();
-    }
+    void TearDown() override { ConstellationCatalogue::FlushNameInfo(); }
 
     // A catalogue whose constellations are those of `names`, read as the table of names.
     std::unique_ptr<ConstellationCatalogue> Catalogue(const std::string& names = kFiveNames)

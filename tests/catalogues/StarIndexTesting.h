@@ -17,6 +17,7 @@
 #include "catalogues/Star.h"
 #include "catalogues/StarCatalogue.h"
 #include "catalogues/TextFile.h"
+#include "host/HostProf.h"
 #include "host/ScopedHome.h"
 #include "platform/DebugStream.h"
 #include "platform/DeviceCaps.h"
@@ -26,23 +27,26 @@
 #include "time/AstroTime.h"
 
 // A fresh directory for one test, which is also ORBISCOPE_HOME while it lives, so that an
-// orbiscope.ini written into it overrides the shipped profile. Both go afterwards. Binary
-// files are read and written as strings of bytes.
+// orbiscope.ini written into it (and a reload of the profile) overrides the shipped profile.
+// Both go afterwards, and the profile is the shipped one again. Binary files are read and
+// written as strings of bytes.
 class ScratchDirectory : public ScopedHome
 {
 public:
-    // The file opened for one of the text readers.
-    std::unique_ptr<TextFile> Open(const std::string& name) const
+    ScratchDirectory() { HostProfile().Reload(); }
+    ~ScratchDirectory()
     {
-        auto file = std::make_unique<TextFile>();
-        EXPECT_TRUE(file->OpenForReading(File(name).c_str())) << name;
-        return file;
+        WriteFile("orbiscope.ini", "");
+        HostProfile().Reload();
     }
-    // The file written with `text` and opened for one of the text readers.
+
+    // The file written with `text`, opened for one of the text readers.
     std::unique_ptr<TextFile> Open(const std::string& name, const std::string& text) const
     {
         WriteFile(name, text);
-        return Open(name);
+        auto file = std::make_unique<TextFile>();
+        EXPECT_TRUE(file->OpenForReading(File(name).c_str())) << name;
+        return file;
     }
 };
 
