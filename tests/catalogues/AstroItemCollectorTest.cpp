@@ -164,7 +164,7 @@ TEST_F(AstroItemCollectorTest, UserCatalogueServesEveryRequestAndIsSearchedFirst
     AstroItemCollector collector;
     // Lookups by number read the small file before the large one.
     EXPECT_EQ(std::unique_ptr<Star>(collector.GetStarFromSAONumber(10))->GetListName(), "Ten");
-    EXPECT_TRUE(Resident(collector.GetStarCatalogues()[1]->GetSegments()).empty());
+    EXPECT_EQ(collector.GetStarCatalogues()[1]->GetSegments().GetLoadedCount(), 0);
     EXPECT_FALSE(collector.DumpStarsBinary(Dir.File("out.bin"))); // no user catalogue
 
     ASSERT_TRUE(Satisfy(collector, 10, 9.0));

@@ -1,13 +1,11 @@
 // The Messier objects from their lines to the view: each line read with its names and class,
-// bad lines and bad binary files, the shipped text file at SIMBAD's places, and requests.
+// bad lines, the shipped text file at SIMBAD's places, and requests.
 #include <gtest/gtest.h>
 
 #include <tuple>
 
 #include "StarIndexTesting.h"
 #include "catalogues/MessierCatalogue.h"
-#include "skyview/Label.h"
-#include "skyview/SkyCanvas.h"
 
 namespace {
 
@@ -95,34 +93,6 @@ TEST(Messier, BadLinesLeaveTheObjectAndEndTheLoadKeepingTheObjectsBeforeThem)
     EXPECT_EQ(catalogue.GetCount(), 0u);
 }
 
-TEST(MessierCatalogue, DumpReadsBackAndABadBinaryFileKeepsWhatCouldBeRead)
-{
-    ScratchDirectory dir;
-    MessageCapture messages;
-    MessierCatalogue source;
-    ASSERT_TRUE(source.Load(*dir.Open("three.txt", kThree)));
-    ASSERT_TRUE(source.Dump(dir.File("three.bin")));
-    const std::string bytes = dir.ReadFile("three.bin");
-    // A count, then the records: whole, cut inside the third record, a count far beyond the
-    // records, and a negative count.
-    const std::tuple<std::string, bool, std::size_t> rows[] = {
-        {bytes, true, 3},
-        {bytes.substr(0, bytes.size() - 1), false, 2},
-        {"\xFF\xFF\xFF\x7F" + bytes.substr(4), false, 3},
-        {bytes.substr(0, 3) + "\x80" + bytes.substr(4), false, 0},
-    };
-    for (const auto& [content, whole, count] : rows) {
-        dir.WriteFile("copy.bin", content);
-        MessierCatalogue copy;
-        EXPECT_EQ(copy.Load(dir.File("copy.bin")), whole) << count;
-        ASSERT_EQ(copy.GetCount(), count);
-        for (unsigned n = 1; n <= count; ++n) {
-            EXPECT_EQ(copy.GetObject(n)->GetPosition(), source.GetObject(n)->GetPosition()) << n;
-        }
-    }
-    EXPECT_TRUE(messages.Contains("Messier binary load failed."));
-}
-
 TEST(MessierCatalogue, ShippedFileHoldsTheHundredAndTenWhereSimbadPutsThem)
 {
     MessageCapture messages;
@@ -162,7 +132,7 @@ TEST(MessierCatalogue, ShippedFileHoldsTheHundredAndTenWhereSimbadPutsThem)
         Shown(catalogue, PolarCoord(0, -90), 20.0, AstroCatalogue::MESSIER_OBJECTS).empty());
 }
 
-TEST(Messier, ObjectsSortByNumberAndAreLabelledWithTheCodeNameInYellow)
+TEST(Messier, ListsSortByNumberNotByName)
 {
     Messier m2, m10;
     ASSERT_TRUE(m2.Initialize(LorvString("2 NGC 7089 21 33 27.01 - 00 49 23.9 6.25 GCl")));
@@ -170,9 +140,4 @@ TEST(Messier, ObjectsSortByNumberAndAreLabelledWithTheCodeNameInYellow)
     // By text "M10" would come first.
     EXPECT_TRUE(m2.IsLessThan(m10));
     EXPECT_FALSE(m10.IsLessThan(m2));
-    SkyCanvas canvas(64, 32);
-    Label* label = m10.GetLabel(canvas.Parameters);
-    ASSERT_NE(label, nullptr);
-    EXPECT_EQ(label->GetText(), "M10");
-    EXPECT_EQ(label->GetColor(), TColor::LtYellow);
 }

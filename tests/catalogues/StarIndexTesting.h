@@ -108,14 +108,13 @@ std::vector<std::string> Shown(Catalogue& catalogue, const PolarCoord& centre, d
     return Names(list);
 }
 
-// Keeps the diagnostic messages of a test, each with its line end.
+// Keeps the diagnostic messages of a test, each with its line end. Not to be copied: the sink
+// points at this object.
 class MessageCapture
 {
 public:
     MessageCapture() : Previous(SetDebugSink([this](const char* text) { Messages += text; })) {}
     ~MessageCapture() { SetDebugSink(Previous); }
-    MessageCapture(const MessageCapture&) = delete;
-    MessageCapture& operator=(const MessageCapture&) = delete;
 
     bool Contains(const std::string& part) const
     {
@@ -127,15 +126,3 @@ public:
 private:
     DebugSink Previous;
 };
-
-// The indexes of the resident segments, in table order.
-inline std::vector<int> Resident(const SegmentTable& table)
-{
-    std::vector<int> loaded;
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (table[i].IsLoaded()) {
-            loaded.push_back(int(i));
-        }
-    }
-    return loaded;
-}
