@@ -62,26 +62,3 @@ TEST_F(AstroListTest, NearestObjectIsTheOneItsDefinitionGivesOnAFullSky)
             << point.x << ", " << point.y << " within " << radius;
     }
 }
-
-TEST_F(AstroListTest, SearchFollowsTheChangesOfTheList)
-{
-    SkyObjectProbe* a = Place(10, 10);
-    Place(12, 12, true);
-    EXPECT_EQ(List.FindNearestObject(TPoint(50, 50), 10), nullptr);
-    SkyObjectProbe* late = Place(52, 50);
-    EXPECT_EQ(List.FindNearestObject(TPoint(50, 50), 10), late);
-
-    // Removing what moves with time keeps the order of the rest.
-    List.RemoveTimeDependentObjects();
-    ASSERT_EQ(List.GetCount(), 2u);
-    EXPECT_EQ(List[0], a);
-    EXPECT_EQ(List[1], late);
-    EXPECT_EQ(List.FindNearestObject(TPoint(12, 12), 5), a);
-
-    // Display points move between frames; a new frame lists the objects again.
-    List.Flush();
-    late->SetDisplayPoint(TPoint(200, 200));
-    List.Add(late);
-    EXPECT_EQ(List.FindNearestObject(TPoint(50, 50), 10), nullptr);
-    EXPECT_EQ(List.FindNearestObject(TPoint(199, 200), 10), late);
-}

@@ -1,5 +1,5 @@
 // Constellations drawn on a small 8-bit map: figure lines in green and the closed boundary in
-// red, each only where the view shows an end of it, as the settings ask; and the centre mark.
+// red, each only where the view shows an end of it, as the settings ask.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -110,14 +110,4 @@ TEST_F(ConstellationDrawTest, BoundaryEdgesWithNoEndInViewAreLeftOut)
     // The edges from the corners in view run out to the points beyond the map.
     EXPECT_NE(std::find(red.begin(), red.end(), At(0, 3)), red.end());
     EXPECT_GT(red.size(), 40u);
-}
-
-TEST_F(ConstellationDrawTest, CentreMarksAreFiveByFiveLightYellowSquaresOfTheCentresInView)
-{
-    pCatalogue->LoadCenterPointInfo(*Dir.Open("centres.txt", "Ori,0,0,2,5\nLyr,280,37,280,37\n"));
-    pCatalogue->DrawCenters(Canvas.GetDC(), View);
-    const std::vector<TPoint> yellow = PixelsOf(TColor::LtYellow);
-    ASSERT_EQ(yellow.size(), 25u);
-    EXPECT_EQ(yellow.front(), TPoint(At(0, 0).x - 2, At(0, 0).y - 2));
-    EXPECT_EQ(yellow.back(), TPoint(At(0, 0).x + 2, At(0, 0).y + 2));
 }

@@ -131,13 +131,3 @@ TEST(MessierCatalogue, ShippedFileHoldsTheHundredAndTenWhereSimbadPutsThem)
     EXPECT_TRUE(
         Shown(catalogue, PolarCoord(0, -90), 20.0, AstroCatalogue::MESSIER_OBJECTS).empty());
 }
-
-TEST(Messier, ListsSortByNumberNotByName)
-{
-    Messier m2, m10;
-    ASSERT_TRUE(m2.Initialize(LorvString("2 NGC 7089 21 33 27.01 - 00 49 23.9 6.25 GCl")));
-    ASSERT_TRUE(m10.Initialize(LorvString("10 NGC 6254 16 57 08.99 - 04 05 57.6 4.98 GCl")));
-    // By text "M10" would come first.
-    EXPECT_TRUE(m2.IsLessThan(m10));
-    EXPECT_FALSE(m10.IsLessThan(m2));
-}

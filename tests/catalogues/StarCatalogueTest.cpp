@@ -1,5 +1,5 @@
 // A star catalogue over its star file: what a view shows and which segments it keeps in
-// memory, damaged files, and lookups by number.
+// memory, its named stars, and damaged files.
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -60,6 +60,15 @@ TEST_F(StarCatalogueTest, ViewShowsStarsWithinItsRangeDownToTheLimitAndGivesUpTh
         EXPECT_EQ(object->GetDisplayPoint(), expected);
         EXPECT_FALSE(static_cast<Star*>(object)->HasScrollCache());
     }
+    // The finder's list of named stars holds copies, in table order, and reads no segment.
+    const auto named = Catalogue.GetListOfNamedObjects();
+    AstroList namedList(10, 10);
+    for (AstroObject* object : *named) {
+        namedList.Add(object);
+    }
+    EXPECT_EQ(Names(namedList), (Listed{"Dee", "Bee"}));
+    EXPECT_NE(namedList[1], Catalogue.GetSegments()[20].FindStar(101));
+    EXPECT_FALSE(Catalogue.GetSegments()[2].IsLoaded());
     // Moving away gives the segments up; the stars of the new view come in.
     EXPECT_EQ(Shown(Catalogue, PolarCoord(250, -60), 10.0, AstroCatalogue::STARS),
               (Listed{"SAO300"}));
@@ -119,19 +128,4 @@ TEST_F(StarCatalogueTest, MissingOrCutHeadersLeaveACatalogueWithoutStars)
     StarCatalogue cut;
     EXPECT_FALSE(cut.Load(Dir.File("cut.bin")));
     EXPECT_TRUE(messages.Contains("ends inside its segment table; 11 segments read"));
-}
-
-TEST_F(StarCatalogueTest, LookupsHandOutCopiesAndLeaveResidencyAlone)
-{
-    Shown(Catalogue, PolarCoord(12, 10), 20.0, AstroCatalogue::STARS);
-    const int before = Catalogue.GetSegments().GetLoadedCount();
-    EXPECT_EQ(Catalogue.GetStarFromSAONumber(999), nullptr);
-    EXPECT_EQ(std::unique_ptr<Star>(Catalogue.GetStarFromSAONumber(300))->GetMagnitude(), 8.5);
-    const auto named = Catalogue.GetListOfNamedObjects(); // for the finder
-    AstroList list(10, 10);
-    for (AstroObject* object : *named) {
-        list.Add(object);
-    }
-    EXPECT_EQ(Names(list), (Listed{"Dee", "Bee"})); // in table order
-    EXPECT_EQ(Catalogue.GetSegments().GetLoadedCount(), before);
 }
