@@ -127,6 +127,7 @@ TEST(Star, LabelIsThePopularNameOfABrightStarInWhite)
     canvas.Parameters.SetLimitingMagnitudeLabels(2.0);
     Star vega(67174, 0.03, PolarCoord(279.234, 38.784), "Vega");
     EXPECT_TRUE(vega.IsLabeled(canvas.Parameters));
+    EXPECT_TRUE(Star(1, 2.0, PolarCoord(), "AtTheLimit").IsLabeled(canvas.Parameters));
     EXPECT_FALSE(Star(1, 2.01, PolarCoord(), "Fainter").IsLabeled(canvas.Parameters));
     EXPECT_FALSE(Star(67175, -1.0, PolarCoord()).IsLabeled(canvas.Parameters));
     ASSERT_NE(vega.GetLabel(canvas.Parameters), nullptr);
