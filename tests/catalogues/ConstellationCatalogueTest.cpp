@@ -105,7 +105,7 @@ TEST_F(ConstellationFilesTest, CentreLinesGiveCentreAndLabelPointEachOnlyWithBot
     unordered->LoadCenterPointInfo(
         *Dir.Open("centres.txt", "And,10.09,40.48,0.75,43\nOri\nOph,255.5,-5.5,256.25,-7.5\n"));
     EXPECT_FALSE(unordered->IsCenterLoaded());
-    EXPECT_FALSE(Get(*unordered, "Oph").HasCenter());
+    EXPECT_FALSE(Get(*unordered, "Ser").HasCenter());
     EXPECT_NEAR(Get(*unordered, "Ori").GetCenter().GetRA().GetDegrees(), 82.5, 1e-9);
     EXPECT_NEAR(Get(*unordered, "Ori").GetCenter().GetDec().GetDegrees(), 5.0, 1e-9);
 }

@@ -1,5 +1,5 @@
 // The Messier objects from their lines to the view: each line read with its names and class,
-// bad lines, the shipped text file at SIMBAD's places, and requests.
+// bad lines and bad binary files, the shipped text file at SIMBAD's places, and requests.
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -91,6 +91,30 @@ TEST(Messier, BadLinesLeaveTheObjectAndEndTheLoadKeepingTheObjectsBeforeThem)
     EXPECT_FALSE(missing.OpenForReading(dir.File("absent.txt").c_str()));
     EXPECT_TRUE(catalogue.Load(missing));
     EXPECT_EQ(catalogue.GetCount(), 0u);
+}
+
+TEST(MessierCatalogue, DumpReadsBackAndABadBinaryFileKeepsWhatCouldBeRead)
+{
+    ScratchDirectory dir;
+    MessierCatalogue source;
+    ASSERT_TRUE(source.Load(*dir.Open("three.txt", kThree)));
+    ASSERT_TRUE(source.Dump(dir.File("three.bin")));
+    // A count, then the records: whole, cut inside the third record, or a negative count.
+    const std::string bytes = dir.ReadFile("three.bin");
+    const std::tuple<std::string, bool, std::size_t> rows[] = {
+        {bytes, true, 3},
+        {bytes.substr(0, bytes.size() - 1), false, 2},
+        {bytes.substr(0, 3) + "\x80" + bytes.substr(4), false, 0},
+    };
+    for (const auto& [content, whole, count] : rows) {
+        dir.WriteFile("copy.bin", content);
+        MessierCatalogue copy;
+        EXPECT_EQ(copy.Load(dir.File("copy.bin")), whole) << count;
+        ASSERT_EQ(copy.GetCount(), count);
+        for (unsigned n = 1; n <= count; ++n) {
+            EXPECT_EQ(copy.GetObject(n)->GetPosition(), source.GetObject(n)->GetPosition()) << n;
+        }
+    }
 }
 
 TEST(MessierCatalogue, ShippedFileHoldsTheHundredAndTenWhereSimbadPutsThem)

@@ -1,22 +1,16 @@
 #pragma once
-// A minimal sky object for the list and collector tests: it stands where it is put, says
-// whether it moves with time, and tells a shared flag when it is deleted.
+// A minimal sky object for the list and collector tests: it stands where it is put, and says
+// whether it moves with time.
 #include "catalogues/AstroObject.h"
 
 class SkyObjectProbe : public AstroObject
 {
 public:
     explicit SkyObjectProbe(const PolarCoord& position = PolarCoord(), double magnitude = 0.0,
-                            bool timeDependent = false, bool* deleted = nullptr)
+                            bool timeDependent = false)
         : AstroObject(timeDependent ? ObjectType::Planet : ObjectType::OtherObject),
-          Position(position), Magnitude(magnitude), pDeleted(deleted)
+          Position(position), Magnitude(magnitude)
     {}
-    ~SkyObjectProbe() override
-    {
-        if (pDeleted != nullptr) {
-            *pDeleted = true;
-        }
-    }
 
     PolarCoord GetPosition() const override { return Position; }
     double GetMagnitude() const override { return Magnitude; }
@@ -28,6 +22,5 @@ public:
 private:
     PolarCoord Position;
     double Magnitude;
-    bool* pDeleted;
     TPoint Point;
 };
