@@ -55,11 +55,6 @@ TEST(Messier, LineGivesPositionMagnitudeClassAndNames)
         EXPECT_EQ(object.GetTypeName(), typeName);
         EXPECT_NEAR(object.GetPosition().GetDec().GetDegrees(), dec, 1e-6);
     }
-    Messier m31;
-    ASSERT_TRUE(m31.Initialize(LorvString(kAndromeda)));
-    EXPECT_NEAR(m31.GetPosition().GetRA().GetDegrees(), 15.0 * Degrees(0, 42, 44.35), 1e-9);
-    EXPECT_DOUBLE_EQ(m31.GetMagnitude(), 3.44);
-    EXPECT_EQ(m31.GetUid(), 0x70000000u + 131u);
 }
 
 TEST(Messier, BadLinesLeaveTheObjectAndEndTheLoadKeepingTheObjectsBeforeThem)

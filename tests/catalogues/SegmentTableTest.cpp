@@ -21,18 +21,6 @@ int SegmentOf(const SegmentTable& table, std::uint32_t sao)
     return -1;
 }
 
-// The indexes of the resident segments, in table order.
-std::vector<int> Resident(const SegmentTable& table)
-{
-    std::vector<int> loaded;
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (table[i].IsLoaded()) {
-            loaded.push_back(int(i));
-        }
-    }
-    return loaded;
-}
-
 } // namespace
 
 TEST(SegmentTableTest, StarGoesToTheFirstSegmentThatHoldsIt)
@@ -92,7 +80,13 @@ TEST(SegmentTableTest, ViewMakesResidentTheSegmentsItTouches)
     HostFile none;
     for (const auto& [name, visible, resident] : rows) {
         table.Update(none, visible);
-        EXPECT_EQ(Resident(table), resident) << name;
+        std::vector<int> loaded;
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            if (table[i].IsLoaded()) {
+                loaded.push_back(int(i));
+            }
+        }
+        EXPECT_EQ(loaded, resident) << name;
     }
 }
 

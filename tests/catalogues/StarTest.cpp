@@ -50,10 +50,11 @@ TEST(Star, CatalogueLinesReadFromAFileGiveNumberMagnitudePositionAndName)
             {"151881,-1.44,6,45,8.928,-,16,42,57.96,2491,48915,32349,Sirius", 151881, -1.44,
              101.287155, -16.716116, "Sirius", 0.001},
         };
+    // Read from a file with DOS line ends, which the reader takes off whole.
     ScratchDirectory dir;
     std::string text;
     for (const auto& row : rows) {
-        text += std::string(std::get<0>(row)) + "\n";
+        text += std::string(std::get<0>(row)) + "\r\n";
     }
     std::unique_ptr<TextFile> file = dir.Open("lines.txt", text);
     for (const auto& [line, sao, magnitude, ra, dec, name, tolerance] : rows) {
