@@ -1,5 +1,5 @@
-// The list of what a view shows: the object under the mouse, and the index behind that search
-// as the list changes.
+// The list of what a view shows: the object under the mouse, found through an index that the
+// list drops at each change.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -15,9 +15,9 @@ namespace {
 class AstroListTest : public ::testing::Test
 {
 protected:
-    SkyObjectProbe* Place(int x, int y, bool timeDependent = false)
+    SkyObjectProbe* Place(int x, int y)
     {
-        Objects.push_back(std::make_unique<SkyObjectProbe>(PolarCoord(), 0.0, timeDependent));
+        Objects.push_back(std::make_unique<SkyObjectProbe>());
         Objects.back()->SetDisplayPoint(TPoint(x, y));
         List.Add(Objects.back().get());
         return Objects.back().get();

@@ -10,7 +10,7 @@
 namespace {
 
 // A canvas of 64 by 48 pixels that looks at RA 0, Dec 0 with north up, 20 degrees to the
-// nearer edge, and Orion (with Lyra) read from invented lines.
+// nearer edge, and Orion read from invented lines.
 class ConstellationDrawTest : public ConstellationFilesTest
 {
 protected:
@@ -38,7 +38,7 @@ protected:
 
     const TColor Green{0, 255, 0};
     const TColor Red{255, 0, 0};
-    std::unique_ptr<ConstellationCatalogue> pCatalogue = Catalogue("Orion, Ori\nLyra, Lyr\n");
+    std::unique_ptr<ConstellationCatalogue> pCatalogue = Catalogue("Orion, Ori\n");
     SkyCanvas Canvas{64, 48};
     Transformation View{Canvas.GetDC(), Canvas.Parameters.DrawRect, PolarCoord(0.0, 0.0), 20.0,
                         PolarCoord(0.0, 90.0)};
