@@ -1,33 +1,26 @@
 #pragma once
-// A minimal sky object for the list and container tests: it stands where it is put, says
-// whether it moves with time, and tells a shared flag when it is deleted.
+// A minimal sky object for the list and collector tests: it stands where it is put, and says
+// whether it moves with time.
 #include "catalogues/AstroObject.h"
 
 class SkyObjectProbe : public AstroObject
 {
 public:
-    explicit SkyObjectProbe(TPoint point = TPoint(), bool timeDependent = false,
-                            bool* deleted = nullptr, std::uint32_t uid = 0)
-        : AstroObject(timeDependent ? ObjectType::Planet : ObjectType::OtherObject), Point(point),
-          bTimeDependent(timeDependent), pDeleted(deleted), nUid(uid)
+    explicit SkyObjectProbe(const PolarCoord& position = PolarCoord(), double magnitude = 0.0,
+                            bool timeDependent = false)
+        : AstroObject(timeDependent ? ObjectType::Planet : ObjectType::OtherObject),
+          Position(position), Magnitude(magnitude)
     {}
-    ~SkyObjectProbe() override
-    {
-        if (pDeleted != nullptr) {
-            *pDeleted = true;
-        }
-    }
 
-    PolarCoord GetPosition() const override { return PolarCoord(); }
+    PolarCoord GetPosition() const override { return Position; }
+    double GetMagnitude() const override { return Magnitude; }
     const TPoint& GetDisplayPoint() const override { return Point; }
     void SetDisplayPoint(const TPoint& point) override { Point = point; }
-    bool IsTimeDependent() const override { return bTimeDependent; }
-    std::uint32_t GetUid() const override { return nUid; }
+    bool IsTimeDependent() const override { return GetType() == ObjectType::Planet; }
     void Draw(TDC&, DisplayParameters&) override {}
 
 private:
+    PolarCoord Position;
+    double Magnitude;
     TPoint Point;
-    bool bTimeDependent;
-    bool* pDeleted;
-    std::uint32_t nUid;
 };
