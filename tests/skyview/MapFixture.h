@@ -18,10 +18,9 @@
 #include "skyview/MapWindow.h"
 #include "windows/HeadlessFixture.h"
 
-// The messages the map sends its parent: a new projection, an article, a click.
+// The messages the map sends its parent: a new projection, an article.
 constexpr UINT kFieldChange = 0x07EA;
 constexpr UINT kReference = 0x07E8;
-constexpr UINT kSingleClick = 0x0471;
 
 // The map, with the information dialog replaced by a record of what it was asked to show.
 class RecordingMap : public MapWindow
@@ -61,8 +60,6 @@ public:
             ++nFieldChanges;
         } else if (msg == kReference) {
             References.push_back(*reinterpret_cast<const std::string*>(lParam));
-        } else if (msg == kSingleClick) {
-            Clicks.push_back(*reinterpret_cast<const PolarCoord*>(lParam));
         }
         return TWindow::WindowProc(msg, wParam, lParam);
     }
@@ -72,7 +69,6 @@ public:
     AstroStatusWindow* pPanel = nullptr;
     int nFieldChanges = 0;
     std::vector<std::string> References;
-    std::vector<PolarCoord> Clicks;
 };
 
 // Degrees between two sky directions, from the vectors' cross and dot products, which keep
@@ -158,12 +154,6 @@ protected:
     std::unique_ptr<Surface> Screen() { return WindowSystem::Get().CaptureWindow(Map().HWindow); }
     // The off-screen bitmap; only after a paint.
     Surface& Bitmap() { return Map().GetMemoryDC()->GetSurface(); }
-
-    void Repaint()
-    {
-        Map().Invalidate();
-        Pump();
-    }
 
     std::unique_ptr<MapHost> pHost;
 };

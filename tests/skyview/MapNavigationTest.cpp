@@ -1,6 +1,6 @@
 // Moving about the map and picking objects, as a user does it on the headless desktop: clicks,
-// the rubber band, scrolling and blinking on their timers, locating an object with the
-// questions it brings, and the time lapse.
+// the rubber band, scrolling and blinking on their timers, and locating an object with the
+// questions it brings.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -12,8 +12,6 @@
 #include "catalogues/ConstellationSettings.h"
 #include "catalogues/Star.h"
 #include "projection/RotatingOrientationInfo.h"
-#include "time/AnimationSettings.h"
-#include "time/TimeStep.h"
 
 namespace {
 
@@ -92,24 +90,6 @@ protected:
 
 } // namespace
 
-TEST_F(MapNavigationTest, AClickOrASlipOfFourPixelsCentresTheViewWhereTheButtonComesUp)
-{
-    Start();
-    PolarCoord target = SkyAt(TPoint(150, 40));
-    Desk().Click(Map(), TPoint(150, 40));
-    Pump();
-    EXPECT_LT(Apart(Centre(), target), 1e-9);
-    EXPECT_EQ(Map().GetTransformation()->GetProjector().GetCenterPoint(), TPoint(100, 75));
-    EXPECT_FALSE(Map().HasCapture()) << "the release gives the mouse back";
-    // |dx| + |dy| = 3 + 1 is not above 4: no rubber band, no zoom.
-    target = SkyAt(TPoint(53, 41));
-    Desk().Drag(Map(), TPoint(50, 40), TPoint(53, 41), 2);
-    Pump();
-    EXPECT_LT(Apart(Centre(), target), 1e-9);
-    EXPECT_EQ(Map().GetOrientation().GetFieldRadius(), 30.0);
-    EXPECT_TRUE(Map().Informed.empty());
-}
-
 TEST_F(MapNavigationTest, ARubberBandShowsWhileDraggedAndZoomsToItsAreaButNeverBelowOneDegree)
 {
     Start();
@@ -133,22 +113,28 @@ TEST_F(MapNavigationTest, ARubberBandShowsWhileDraggedAndZoomsToItsAreaButNeverB
     EXPECT_NEAR(Map().GetOrientation().GetFieldRadius(), corner, 1e-9);
     EXPECT_EQ(Screen()->ColorAt(80, 50), kBlack) << "the new view replaces the band";
 
-    // A band 3 pixels wide, or drawn up and to the left, repaints and does not zoom.
+    // A band 3 pixels wide, or drawn up and to the left, does not zoom.
     Desk().Drag(Map(), TPoint(50, 20), TPoint(53, 120));
     Desk().Drag(Map(), TPoint(150, 110), TPoint(50, 40));
     Pump();
-    EXPECT_EQ(Screen()->ColorAt(51, 60), kBlack);
     EXPECT_NEAR(Map().GetOrientation().GetFieldRadius(), corner, 1e-9);
     Map().ZoomToArea(TRect(100, 75, 102, 77));
     EXPECT_EQ(Map().GetOrientation().GetFieldRadius(), MapWindow::kMinimumZoomRadius);
 }
 
-TEST_F(MapNavigationTest, AClickOnAnObjectOpensItsInformationAndARightClickOnlyCentres)
+TEST_F(MapNavigationTest, AClickCentresTheSkyOpensAnObjectsInformationAndARightClickCentres)
 {
     MarkedObject& star = Mark(PolarCoord(90.0, 10.0), "Marker");
     Start();
+    // A slip of |dx| + |dy| = 3 + 1 is not above 4: a click, where the button comes up.
+    const PolarCoord target = SkyAt(TPoint(153, 41));
+    Desk().Drag(Map(), TPoint(150, 40), TPoint(153, 41), 2);
+    Pump();
+    EXPECT_LT(Apart(Centre(), target), 1e-9);
+    EXPECT_EQ(Map().GetOrientation().GetFieldRadius(), 30.0);
+    EXPECT_FALSE(Map().HasCapture()) << "the release gives the mouse back";
+    // Within the pick radius of an object its information opens, and the view stays.
     const PolarCoord centre = Centre();
-    // Within the pick radius of the object.
     Desk().Click(Map(), star.GetDisplayPoint() + TPoint(3, -2));
     Pump();
     EXPECT_EQ(Map().Informed, std::vector<AstroObject*>{&star});
@@ -158,7 +144,6 @@ TEST_F(MapNavigationTest, AClickOnAnObjectOpensItsInformationAndARightClickOnlyC
     EXPECT_EQ(Map().Informed.size(), 1u);
     EXPECT_LT(Apart(Centre(), star.GetPosition()), 0.5);
 }
-
 TEST_F(MapNavigationTest, AClickOnAConstellationOrItsLabelGoesStraightToItsArticle)
 {
     // Andromeda's uid, whose first link in the shipped table is its Wikipedia page.
@@ -175,32 +160,11 @@ TEST_F(MapNavigationTest, AClickOnAConstellationOrItsLabelGoesStraightToItsArtic
     EXPECT_TRUE(Map().Informed.empty());
 }
 
-TEST_F(MapNavigationTest, WithTheMouseDisabledOnlyTheParentsClickMessageGoesOut)
-{
-    Start();
-    const PolarCoord centre = Centre();
-    Map().DisableMouse(true);
-    Desk().Click(Map(), TPoint(150, 40));
-    Desk().Drag(Map(), TPoint(40, 40), TPoint(140, 110));
-    Desk().Click(Map(), TPoint(150, 40), MK_RBUTTON);
-    Map().SetSingleClickMessage(kSingleClick);
-    Desk().Click(Map(), TPoint(150, 40));
-    // With the mouse on again the parent still takes the clicks in place of the map.
-    Map().DisableMouse(false);
-    Desk().Click(Map(), TPoint(30, 30));
-    Pump();
-    EXPECT_EQ(Centre(), centre);
-    EXPECT_EQ(Map().GetOrientation().GetFieldRadius(), 30.0);
-    EXPECT_EQ(pHost->Clicks, (std::vector<PolarCoord>{SkyAt(TPoint(150, 40)), SkyAt({30, 30})}));
-}
-
 TEST_F(MapNavigationTest, ScrollingStepsOnEveryTickRestartsWithANewPaceAndStopsWhereItMust)
 {
     OpenOnTheGround();
     Map().Scroll(AstroScrollInfo(AstroScrollInfo::AZIMUTH_UP, 100, DegreeAngle(2.0)));
     EXPECT_DOUBLE_EQ(Offset().GetRA().GetDegrees(), 182.0) << "a step at once";
-    EXPECT_LT(Apart(Map().GetTransformation()->GetCenterOfView(), Centre()), 1e-9)
-        << "and painted at once";
     Desk().AdvanceTime(350);
     EXPECT_DOUBLE_EQ(Offset().GetRA().GetDegrees(), 188.0);
     // A second scroll steps at once and next 300 ms later, not at the old timer's next tick.
@@ -255,23 +219,6 @@ TEST_F(MapNavigationTest, ABlinkingObjectOrLabelIsLeftOutEveryOtherHalfSecondUnt
     EXPECT_EQ(shown(), std::pair(true, true));
 }
 
-TEST_F(MapNavigationTest, AStarAboveTheHorizonIsCentredAndLabelledUntilTheViewMovesByHand)
-{
-    OpenOnTheGround();
-    // Overhead, and fainter than the label limit of 2: the limit goes to just above it.
-    Star star(1, 4.5, Map().GetOrientation().GetZenith(), "Faint");
-    Map().ShowObject(star);
-    Pump();
-    EXPECT_TRUE(Asked.empty());
-    EXPECT_EQ(Map().GetDisplayParameters().GetLabelType(),
-              StarDisplayParameters::kPopularNameLabels);
-    EXPECT_DOUBLE_EQ(Map().GetDisplayParameters().GetLimitingMagnitudeLabels(), 4.6);
-    EXPECT_LT(Apart(Centre(), star.GetPosition()), 1e-6);
-    EXPECT_EQ(Map().GetLastTargetName(), "Faint");
-    Desk().Click(Map(), TPoint(20, 20));
-    EXPECT_NE(Map().GetLastTargetName(), "Faint");
-}
-
 TEST_F(MapNavigationTest, AStarThatNeverRisesIsShownBelowTheHorizonOnlyIfTheUserSaysSo)
 {
     OpenOnTheGround();
@@ -312,6 +259,7 @@ TEST_F(MapNavigationTest, AStarBelowTheHorizonIsSeenRisingOrWhereItIsNowAsTheUse
     Answer(IDYES);
     Map().ShowObject(star);
     Pump();
+    ASSERT_EQ(Asked.size(), 3u);
     EXPECT_EQ(Asked, (std::vector<std::string>{
                          "Object Below the Horizon: Riser is below the horizon now. It rises at " +
                              local.GetDescription3() + ".\nDo you want to see it rise?",
@@ -330,27 +278,4 @@ TEST_F(MapNavigationTest, AStarBelowTheHorizonIsSeenRisingOrWhereItIsNowAsTheUse
     TPoint point;
     EXPECT_TRUE(Map().ObjectIsUp(star));
     EXPECT_TRUE(Map().GetTransformation()->Translate(star.GetPosition(), point));
-}
-
-TEST_F(MapNavigationTest, ATimeLapseStepsTheTimeAtItsPaceUntilStopped)
-{
-    Start();
-    const double start = Map().GetTime().GetMJD();
-    // A pace of none, a negative or an absurd one starts nothing.
-    for (double pace : {0.0, -2.0, 1e300}) {
-        Map().SetAnimation(AnimationSettings(TimeStep(TimeStep::DAYS, 1), pace));
-        Map().Animate();
-        Desk().AdvanceTime(100000);
-        EXPECT_DOUBLE_EQ(Map().GetTime().GetMJD(), start) << pace;
-    }
-    Map().SetAnimation(AnimationSettings(TimeStep(TimeStep::MINUTES, 4), 2.0));
-    Map().Animate();
-    Desk().AdvanceTime(1999);
-    EXPECT_DOUBLE_EQ(Map().GetTime().GetMJD(), start) << "nothing before the first 2 s";
-    Desk().AdvanceTime(4001);
-    EXPECT_NEAR(Map().GetTime().GetMJD(), start + 3 * 4.0 / 1440.0, 1e-9);
-    // The time reached stays when the lapse ends.
-    Map().StopAnimating();
-    Desk().AdvanceTime(10000);
-    EXPECT_NEAR(Map().GetTime().GetMJD(), start + 3 * 4.0 / 1440.0, 1e-9);
 }

@@ -15,8 +15,6 @@
 #include "MapFixture.h"
 #include "catalogues/Star.h"
 #include "projection/RotatingOrientationInfo.h"
-#include "solar/PlanetCatalogue.h"
-#include "solar/SolarSystemObject.h"
 #include "time/TimeStep.h"
 
 namespace {
@@ -87,25 +85,6 @@ protected:
 
 } // namespace
 
-TEST_F(MapSkyEventsTest, AnObjectIsUpAboveTheHorizonAndCanRiseIfItClearsItAtItsTransit)
-{
-    MapWindow& map = StandAt(40.0, 0.0, AstroTime(1, 1, 2000, 3.0));
-    const PolarCoord zenith = map.GetOrientation().GetZenith();
-    const double opposite = zenith.GetRA().GetDegrees() + 180.0;
-    // Overhead, and one degree above and below the north point.
-    EXPECT_TRUE(map.ObjectIsUp(Star(1, 2.0, zenith)));
-    EXPECT_TRUE(map.ObjectIsUp(Star(3, 2.0, PolarCoord(opposite, 51.0))));
-    EXPECT_FALSE(map.ObjectIsUp(Star(4, 2.0, PolarCoord(opposite, 49.0))));
-    EXPECT_TRUE(map.ObjectCanRise(Star(4, 2.0, PolarCoord(opposite, 49.0))));
-    // From 40 north a star south of -50 never rises and one north of +50 never sets: neither
-    // crosses the horizon, nor does anything for an observer at a pole of the Earth.
-    EXPECT_FALSE(map.ObjectCanRise(Star(5, 2.0, PolarCoord(100.0, -60.0))));
-    EXPECT_EQ(map.GetRiseTime(PolarCoord(100.0, -60.0)), map.GetTime());
-    EXPECT_EQ(map.GetSetTime(PolarCoord(100.0, 70.0)), map.GetTime());
-    StandAt(90.0, 0.0, map.GetTime());
-    EXPECT_EQ(map.GetRiseTime(PolarCoord(100.0, -10.0)), map.GetTime());
-}
-
 TEST_F(MapSkyEventsTest, ARisingLaterThanTheMapsTimeOfDayFallsOnTheNextDay)
 {
     // From 40 north on the meridian of Greenwich, a star of RA 18 and Dec 10 is up at 0h UT on
@@ -124,6 +103,15 @@ TEST_F(MapSkyEventsTest, ARisingLaterThanTheMapsTimeOfDayFallsOnTheNextDay)
     // A minute after that rising, the next one is a day later.
     map.SetTime(rise + TimeStep(TimeStep::MINUTES, 1));
     EXPECT_NEAR(map.GetRiseTime(PolarCoord(18.0, 10.0)).GetMJD() - rise.GetMJD(), 1.0, 1e-5);
+
+    // A star south of -50 never rises here and one north of +50 never sets: neither crosses
+    // the horizon, nor does anything for an observer at a pole of the Earth.
+    EXPECT_FALSE(map.ObjectCanRise(Star(5, 2.0, PolarCoord(100.0, -60.0))));
+    EXPECT_TRUE(map.ObjectCanRise(Star(6, 2.0, PolarCoord(100.0, 70.0))));
+    EXPECT_EQ(map.GetRiseTime(PolarCoord(100.0, -60.0)), map.GetTime());
+    EXPECT_EQ(map.GetSetTime(PolarCoord(100.0, 70.0)), map.GetTime());
+    StandAt(90.0, 0.0, map.GetTime());
+    EXPECT_EQ(map.GetRiseTime(PolarCoord(100.0, -10.0)), map.GetTime());
 }
 
 TEST_F(MapSkyEventsTest, TheNightBeginsNowWhileTheSunIsDownElseAtTheNextSunset)
@@ -148,26 +136,5 @@ TEST_F(MapSkyEventsTest, TheNightBeginsNowWhileTheSunIsDownElseAtTheNextSunset)
             now ? time.GetMJD() : NextSunCrossing(time.GetMJD(), latitude, west);
         EXPECT_LT(std::fabs(dark.GetMJD() - reckoned) * kMinutesPerDay, now ? 1e-6 : 5.0);
         EXPECT_GE(dark.GetMJD(), reckoned - 0.5 / kMinutesPerDay) << "never early";
-    }
-}
-
-TEST_F(MapSkyEventsTest, TheRisingOfAMovingBodyPutsBothBodiesBackAtTheMapsTime)
-{
-    // From 70 north on 2000 January 4 at 20:24 UT the Moon's rising is not found in three
-    // rounds; a successful search (Mars from Greenwich) restores the bodies as well, and a view
-    // fixed on the stars has no rising at all.
-    for (const auto& [latitude, time, place, ground] :
-         std::vector<std::tuple<double, AstroTime, unsigned, bool>>{
-             {70.0, AstroTime(4, 1, 2000, 20.4), PlanetCatalogue::kMoonPlace, true},
-             {51.48, AstroTime(1, 3, 2000, 12.0), 3, true},
-             {51.48, AstroTime(1, 3, 2000, 12.0), 3, false}}) {
-        MapWindow& map = StandAt(latitude, 0.0, time);
-        if (!ground) {
-            map.SetOrientation(NorthUp(Orion(), 30.0));
-        }
-        PlanetView& body = *map.GetCollector().GetPlanetCatalogue().GetView(place);
-        EXPECT_EQ(map.GetRiseTime(body).GetMJD() > time.GetMJD(), ground) << place;
-        EXPECT_EQ(map.GetCollector().GetOrigin()->GetTime(), time) << place;
-        EXPECT_EQ(body.GetSolarSystemObject().GetTime(), time) << place;
     }
 }

@@ -50,8 +50,6 @@ public:
     std::uint32_t GetUid() const override { return nUid; }
     void Draw(TDC& dc, DisplayParameters&) override { dc.SetPixel(Point, TColor::White); }
 
-    // A label that stands centred on the object's point, as a constellation's name does.
-    void MakeFixed() { pOwn->SetFixedPoint(Point, true); }
     // Says it is labelled but has no label to give.
     void GiveNoLabel() { bGivesLabel = false; }
 

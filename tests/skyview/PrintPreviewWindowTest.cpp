@@ -1,9 +1,8 @@
-// The printed star chart: what is on the page, printing all copies, and the preview, scaled into
-// its window and drawn anew at each repaint. The heading's text in the written file is checked
-// by the whole-program print test.
+// The printed star chart: what is on the page, and the preview, scaled into its window and drawn
+// anew at each repaint. The heading's text in the written file is checked by the whole-program
+// print test, the preview in the print dialog by the component window's print test.
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 
 #include "MapFixture.h"
@@ -76,27 +75,7 @@ TEST_F(PrintPreviewTest, APageHasTheSkyDarkOnWhiteInAFrameAndTheCompassBelow)
     EXPECT_EQ(Map().GetTransformation()->GetProjector().GetCenterPoint(), TPoint(100, 75));
 }
 
-TEST_F(PrintPreviewTest, EachCopyDrawsTheSkyAgainWithTheChartsOwnStarSettings)
-{
-    PrintPreviewWindow preview(nullptr, &Map(), Printer(72), 3);
-    StarDisplayParameters brighter = preview.GetDisplayParameters();
-    brighter.SetLimitingMagnitude(3.0);
-    preview.SetStarDisplayParameters(brighter);
-    EXPECT_EQ(Map().GetDisplayParameters().GetLimitingMagnitude(), 6.0);
-    // Per page the page's projection and the screen's again.
-    const int changes = pHost->nFieldChanges;
-    EXPECT_TRUE(preview.PrintCopies());
-    Pump();
-    EXPECT_EQ(pHost->nFieldChanges, changes + 2 * 3);
-    EXPECT_EQ(preview.GetPrintDC()->GetPageCount(), 3);
-    EXPECT_TRUE(std::filesystem::exists(Dir.File("chart.pdf")));
-    // Without a printer nothing is drawn or printed.
-    PrintPreviewWindow none(nullptr, &Map(), nullptr, 1);
-    EXPECT_FALSE(none.PrintCopies());
-    EXPECT_EQ(none.GetPreviewSize(TSize(400, 300)), TSize(0, 0));
-}
-
-TEST_F(PrintPreviewTest, ThePreviewShowsTheWholePageInItsShapeAndDrawsItAnewAtEachRepaint)
+TEST_F(PrintPreviewTest, ThePreviewKeepsThePagesShapeAndDrawsTheWholeSkyAnewAtEachRepaint)
 {
     // 400 by 300 pixels at 96 dpi are 104 by 78 twenty-fifths of an inch; A4 (210 by 297) is
     // narrower, so the height stays; a tall room keeps its width instead.
@@ -111,16 +90,8 @@ TEST_F(PrintPreviewTest, ThePreviewShowsTheWholePageInItsShapeAndDrawsItAnewAtEa
     preview->Show(SW_SHOW);
     const int changes = pHost->nFieldChanges;
     Pump();
+    // The compass in the band, 600 of 3508 printer pixels from the bottom.
     auto picture = WindowSystem::Get().CaptureWindow(preview->HWindow);
-    // White paper in a black frame; the sky's frame 2848 of 3508 printer pixels down, the
-    // compass in the band 600 pixels from the bottom.
-    EXPECT_EQ(picture->ColorAt(0, size.cy / 2), RGB(0, 0, 0));
-    EXPECT_EQ(picture->ColorAt(10, 10), RGB(255, 255, 255));
-    EXPECT_EQ(Count(*picture,
-                    TRect(size.cx / 2, 2848 * size.cy / 3508 - 2, size.cx / 2 + 1,
-                          2848 * size.cy / 3508 + 2),
-                    RGB(0, 0, 0)),
-              1);
     EXPECT_GT(Count(*picture, TRect(0, 2908 * size.cy / 3508, size.cx, size.cy), RGB(255, 0, 255)),
               20);
     preview->Invalidate();

@@ -3,8 +3,6 @@
 // selected into a memory context of a 96-dpi screen, its bits handed to a DisplayParameters.
 // Pictures of it are text, one character per pixel by palette index, so that a test states the
 // exact pixels it expects.
-#include <gtest/gtest.h>
-
 #include <map>
 #include <memory>
 #include <string>
