@@ -125,17 +125,8 @@ TEST_F(LabelManagerTest, OtherLabelsTextsAndPointsAndPicturesAreAvoided)
     EXPECT_EQ(RectOf(laterB), TRect(116, 93, 124, 107));
     EXPECT_EQ(RectOf(planet), TRect(123, 153, 131, 167));
     EXPECT_EQ(RectOf(star), TRect(123, 137, 131, 151));
-}
-
-TEST_F(LabelManagerTest, ALabelWithNoFreePlaceIsHiddenAndTakesNoRoom)
-{
-    // Every place round this one is under a picture; the first place of the other spans the
-    // origin, where a hidden label's empty rectangle is.
-    Add(TPoint(150, 150), "X");
-    Add(TPoint(0, 0), "", TRect(100, 100, 200, 200));
-    MarkedObject& corner = Add(TPoint(-10, 0), "X");
-    Lay();
-    EXPECT_EQ(RectOf(corner), TRect(-4, -7, 4, 7));
+    // A label left of its object has its line leave from its right edge, not across the text.
     Manager.Draw(Canvas.GetDC());
-    EXPECT_EQ(Canvas.Picture(TRect(8, 0, 256, 200)).find('#'), std::string::npos) << "hidden";
+    EXPECT_EQ(Canvas.Picture(TRect(90, 20, 97, 21)), "######.\n");
+    EXPECT_EQ(Canvas.Picture(TRect(82, 20, 84, 21)), "..\n");
 }

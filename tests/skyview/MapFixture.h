@@ -36,7 +36,6 @@ class MapHost : public TWindow
 public:
     MapHost(int width, int height, int panelWidth) : TWindow(nullptr, "Map host")
     {
-        Attr.X = Attr.Y = 10;
         Attr.W = panelWidth + width;
         Attr.H = height;
         pMap = new RecordingMap(this);

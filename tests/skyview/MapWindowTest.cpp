@@ -62,7 +62,6 @@ TEST_F(MapWindowTest, APaintCopiesItsRectangleOfTheBitmapAndDrawsOnlyWhileSometh
         map.InvalidateRect(TRect(90, 0, 101, 40), false);
         Pump();
         EXPECT_EQ(Screen()->ColorAt(100, 20) != kWhite, draws);
-        EXPECT_EQ(pHost->nFieldChanges, 1) << "one projection";
         pHost->Destroy();
     }
 }

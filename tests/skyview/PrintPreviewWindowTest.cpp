@@ -3,11 +3,14 @@
 // print test, the preview in the print dialog by the component window's print test.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
+#include <string>
 
 #include "MapFixture.h"
 #include "host/ScopedHome.h"
 #include "platform/TPrintDC.h"
+#include "projection/RotatingOrientationInfo.h"
 #include "skyview/PrintPreviewWindow.h"
 
 namespace {
@@ -53,6 +56,11 @@ int Count(const Surface& page, const TRect& area, COLORREF colour, bool dark = f
 
 TEST_F(PrintPreviewTest, APageHasTheSkyDarkOnWhiteInAFrameAndTheCompassBelow)
 {
+    // From 40 N looking south, 30 degrees up at Canis Major and Orion, 30 to the nearer edge.
+    Map().SetOrientation(RotatingOrientationInfo(
+        Map().GetCollector().GetOrigin(), LatLong(40.0, 0.0), PolarCoord(180.0, 60.0), 30.0, true));
+    Map().SetTime(AstroTime(1, 1, 2000, 0.0));
+    Pump();
     PrintPreviewWindow preview(nullptr, &Map(), Printer(100), 1);
     TPrintDC& dc = *preview.GetPrintDC();
     ASSERT_GT(dc.StartDoc(PrintPreviewWindow::kDocumentName), 0);
@@ -65,9 +73,23 @@ TEST_F(PrintPreviewTest, APageHasTheSkyDarkOnWhiteInAFrameAndTheCompassBelow)
     EXPECT_EQ(page.ColorAt(sky.right - 1, sky.top + 50), RGB(0, 0, 0));
     EXPECT_EQ(page.ColorAt(sky.left + 3, sky.bottom - 3), RGB(255, 255, 255));
     EXPECT_GT(Count(page, inside, RGB(0, 0, 255)), 500) << "the grid";
-    EXPECT_GT(Count(page, inside, 0, true), 50) << "Orion's stars";
-    EXPECT_EQ(Count(page, inside, RGB(255, 0, 0)), 0) << "no status line";
+    EXPECT_GT(Count(page, inside, 0, true), 50) << "the stars";
     EXPECT_GT(Count(page, preview.GetLayout().GetCompassRect(), RGB(255, 0, 255)), 100);
+    // On the compass, north up, the outline of the view south of the zenith is below the middle.
+    const TRect disc = preview.GetDirection().GetCircleRect();
+    const int middle = disc.top + disc.Height() / 2;
+    EXPECT_EQ(Count(page, TRect(disc.left, disc.top, disc.right, middle), RGB(0, 0, 255)), 0);
+    EXPECT_GT(Count(page, TRect(disc.left, middle, disc.right, disc.bottom), RGB(0, 0, 255)), 20);
+    // The texts are laid over the page: no red status line, and the compass's letters with
+    // north above south and west right of east, as the sky is seen looking up.
+    std::map<std::string, const TextRun*> runs;
+    for (const TextRun& run : dc.GetTextRuns()) {
+        EXPECT_NE(run.Color, RGB(255, 0, 0)) << run.Text;
+        runs[run.Text] = &run;
+    }
+    ASSERT_TRUE(runs.count("N") && runs.count("S") && runs.count("W") && runs.count("E"));
+    EXPECT_LT(runs["N"]->Baseline, runs["S"]->Baseline);
+    EXPECT_GT(runs["W"]->PenX.front(), runs["E"]->PenX.front());
     EXPECT_GT(dc.EndPage(), 0);
     EXPECT_GT(dc.EndDoc(), 0);
     // The map is itself again.
@@ -98,4 +120,8 @@ TEST_F(PrintPreviewTest, ThePreviewKeepsThePagesShapeAndDrawsTheWholeSkyAnewAtEa
     Pump();
     EXPECT_EQ(pHost->nFieldChanges, changes + 4) << "the page's sky and the screen's, twice";
     host.Destroy();
+    // Printing draws each copy anew.
+    PrintPreviewWindow copies(nullptr, &Map(), Printer(72), 3);
+    EXPECT_TRUE(copies.PrintCopies());
+    EXPECT_EQ(copies.GetPrintDC()->GetPageCount(), 3);
 }

@@ -141,7 +141,6 @@ TEST(StarDrawing, TheShapeSettingPicksTheStarAndPrintedStarsAreDarkOnWhite)
     // A star of 3 pixels; shape 2 comes from a damaged bookmark: nothing drawn, nothing broken.
     for (const auto& [shape, printing, rows] :
          std::vector<std::tuple<unsigned, bool, std::vector<std::string>>>{
-             {StarDisplayParameters::kRayShape, false, {".###.", ".#.#.", ".###."}},
              {StarDisplayParameters::kRoundShape, false, {".###.", ".###.", ".###."}},
              {2, false, {".....", ".....", "....."}},
              {StarDisplayParameters::kRayShape, true, {"#...#", "#.#.#", "#...#"}},
