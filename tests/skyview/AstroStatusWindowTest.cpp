@@ -1,6 +1,6 @@
 // The status display: the texts of the panel's blocks beside the map (pointer, time,
 // orientation, Moon, from top to bottom) for known map states, and the red status line on the
-// map itself. The pointer's block is filled as the mouse moves, told with the navigation.
+// map itself.
 #include <gtest/gtest.h>
 
 #include <string>

@@ -1,5 +1,5 @@
-// Laying out the labels of a view: the places a label tries, what it must keep clear of, the
-// fixed labels, and what the manager draws. On a 96-dpi surface, where the rings of places lie
+// Laying out the labels of a view: the places a label tries, what it must keep clear of, and
+// what the manager draws. On a 96-dpi surface, where the rings of places lie
 // 6, 9, 12 and 15 pixels from an object, with the test font, in which "X" is 8 by 14 pixels.
 #include <gtest/gtest.h>
 

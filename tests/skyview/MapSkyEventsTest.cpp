@@ -1,5 +1,5 @@
-// The map's questions about the sky: whether an object is up or can rise, when a direction
-// crosses the horizon, and when the night begins.
+// The map's questions about the sky: whether an object can rise, when a direction or a body
+// that moves crosses the horizon, and when the night begins.
 //
 // Rise and set times are checked against an independent reckoning made here: the Sun from the
 // low-precision formulae of the Astronomical Almanac (about 0.01 degree, 1950 to 2050), sidereal

@@ -1,5 +1,5 @@
-// The map's draw cycle and its state: what a paint draws and what it only copies, a resize,
-// printing, a centre chosen while the time waits, and the map's state saved and restored.
+// The map's draw cycle and its state: what a paint draws and what it only copies, the grids it
+// draws, printing, a centre chosen while the time waits, and the state saved and restored.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -68,9 +68,9 @@ TEST_F(MapWindowTest, APaintCopiesItsRectangleOfTheBitmapAndDrawsOnlyWhileSometh
 
 TEST_F(MapWindowTest, SevenDecLinesOrACountOfZeroGiveNoGridAtAllButEightDo)
 {
-    // Eight lines are a step of 45 degrees, the widest there is; the grid is drawn blue, 24
-    // meridians and 36 parallels or 499 at most. Its lines are checked by the whole-program
-    // pictures.
+    // Eight lines are a step of 45 degrees, the widest there is. The grid stays blue whatever
+    // colour is asked for, and 500 lines are refused. Its lines are checked by the
+    // whole-program pictures.
     RecordingMap& map = Open(200, 150);
     for (const auto& [ra, dec, drawn] : std::vector<std::tuple<unsigned, unsigned, bool>>{
              {24, 7, false}, {0, 36, false}, {24, 0, false}, {24, 8, true}, {500, 36, true}}) {
@@ -133,7 +133,7 @@ TEST_F(MapWindowTest, OnlyTheLastCentreChosenWhileTheTimeIsDirtyIsAppliedAtTheNe
     EXPECT_FALSE(map.IsClippedAtHorizon());
 }
 
-TEST_F(MapWindowTest, ARestoredViewOpensAtThePresentMomentOnlyWhenItAsksTo)
+TEST_F(MapWindowTest, ARestoredViewThatAsksForItOpensAtThePresentMomentUnlessATimeIsSet)
 {
     // A time set before the first draw wins over the start at the present moment.
     const AstroTime past(1, 1, 2000, 12.0);
