@@ -147,7 +147,6 @@ public:
     bool ShowPointerPosition(const TPoint& point);
     const PositionStatusItem& GetPointerItem() const { return PointerItem; }
     const TimeStatusItem& GetTimeItem() const { return TimeItem; }
-    const MoonStatusItem& GetMoonItem() const { return MoonItem; }
     const OrientationStatusItem& GetOrientationItem() const { return OrientationItem; }
 
     // The horizon and the foreground.
@@ -222,8 +221,6 @@ public:
     void Scroll(const AstroScrollInfo& info);
     void ContinueScrolling();
     void StopScrolling();
-    bool IsScrolling() const { return bScrolling; }
-    const AstroScrollInfo& GetScrollInfo() const { return ScrollInfo; }
     // Brings an object into view. Before the first draw the object waits for it. An object
     // below the horizon brings questions: to see it rise (the time moves), or, for one that
     // never rises or when the view may sink below the horizon, to see where it is now.
@@ -249,26 +246,19 @@ public:
     // Marks the object with a small red frame on the screen; the mark of another goes.
     void SetHilitedObject(AstroObject& o);
     void DrawHilite(AstroObject& o);
-    const AstroObject* GetHilitedObject() const { return pHilitedObject; }
     // Blinking every kBlinkInterval: the object, or its label, is left out every other step.
     void BlinkObject(AstroObject& o);
     void BlinkLabelForObject(AstroObject& o);
     void StopBlinking();
-    const AstroObject* GetBlinkObject() const { return pBlinkObject; }
-    const AstroObject* GetBlinkLabelObject() const { return pBlinkLabelObject; }
-    bool GetBlinkPhase() const { return bBlinkPhase; }
     // Hands a text for the status bar to the parent.
     void ShowStatus(const std::string& text);
     // While disabled the mouse neither moves the view nor picks objects; a click still goes to
     // the parent when a single-click message is set.
     void DisableMouse(bool disable) { bMouseDisabled = disable; }
-    bool IsMouseDisabled() const { return bMouseDisabled; }
-    const MouseDragger* GetDragger() const { return pDragger.get(); }
     // Centres the view on a constellation and makes it the one figure lines are logged for.
     void ShowConstellation(Constellation& c);
     // The same by full name, without regard to case; an unknown name changes nothing.
     void ShowConstellation(const std::string& name);
-    const Constellation* GetCurrentConstellation() const { return pCurrentConstellation; }
 
     // Logging constellation figures, a tool for whoever draws them: stars picked one after
     // another become the ends of figure lines, drawn in red on the screen, and are appended to
@@ -276,7 +266,6 @@ public:
     // takes the last line back); mode 2 also makes a located constellation the current one;
     // mode 0, the map's own, leaves all of it idle.
     void SetNodeLogMode(std::int32_t mode) { nNodeLogMode = mode; }
-    std::int32_t GetNodeLogMode() const { return nNodeLogMode; }
     // Takes the marked star as the next end; `newLine` starts a line of its own instead of
     // going on from the last end.
     void LogConstellationNode(bool newLine);
@@ -288,7 +277,6 @@ public:
     void SaveConstellationNodeInfo();
     // Copies of the stars picked, two per line.
     using ConstellationNodeInfo = std::vector<Star>;
-    const ConstellationNodeInfo& GetConstellationNodes() const { return ConstellationNodes; }
 
     // Message handlers.
     void EvSize(UINT sizeType, TSize& size);
@@ -365,7 +353,6 @@ public:
     void SetSingleClickMessage(UINT message) { nSingleClickMessage = message; }
     UINT GetReferenceMessage() const { return nReferenceMessage; }
     UINT GetFieldChangeMessage() const { return nFieldChangeMessage; }
-    UINT GetSingleClickMessage() const { return nSingleClickMessage; }
 
     // What the map holds.
     const AstroTime& GetTime() const { return Time; }
@@ -382,8 +369,6 @@ public:
     std::string GetLastTargetName() const;
     bool IsShowingMessier() const { return bShowMessier; }
     bool IsShowingComets() const { return bShowComets; }
-    bool IsShowingPlanets() const { return bShowPlanets; }
-    bool IsMilitaryTime() const { return bMilitaryTime; }
     // The projection of the last draw; null before the first one.
     const Transformation* GetTransformation() const { return pTransformation.get(); }
     // The grid's polylines in screen points; a point with x kPenUpMarker lifts the pen.
@@ -391,28 +376,16 @@ public:
     const AstroList& GetVisibleObjects() const { return aVisibleObjects; }
     // The catalogues.
     AstroItemCollector& GetCollector() { return Collector; }
-    // The off-screen context and bitmap; null until the first paint and after a resize.
+    // The off-screen context; null until the first paint and after a resize.
     const TMemoryDC* GetMemoryDC() const { return pMemoryDC.get(); }
-    HBITMAP GetDrawBitmap() const { return hDrawBitmap; }
+    // The text of the red status line as last drawn.
     const std::string& GetStatusText() const { return StatusText; }
     // The horizon's screen points of the last draw that drew it.
     const std::vector<TPoint>& GetHorizonPoints() const { return HorizonPoints; }
-    bool IsUsingForeground() const { return bUseForeground; }
-    // The built foreground and mask; null until a merge builds them.
-    const TBitmap* GetForegroundBitmap() const { return pForegroundBitmap.get(); }
-    const TBitmap* GetMaskBitmap() const { return pMaskBitmap.get(); }
-    const TRect& GetStatusRect() const { return StatusRect; }
-    unsigned GetWaitCursorDepth() const { return nWaitCursors; }
 
     // The flags, for those who wait on a draw.
-    bool IsGridDirty() const { return bGridDirty; }
-    bool IsTransformationDirty() const { return bTransformationDirty; }
     bool IsTimeDirty() const { return bTimeDirty; }
-    bool IsStatusDirty() const { return bStatusDirty; }
-    bool AreLabelsDirty() const { return Labels.IsDirty(); }
-    const LabelManager& GetLabels() const { return Labels; }
     bool IsFirstDrawPending() const { return bFirstDrawPending; }
-    bool IsNearestDarkPending() const { return bNearestDarkPending; }
 
 private:
     // Invalidates the whole client area once the window exists.

@@ -1,10 +1,13 @@
 #pragma once
-// A sky object for the label tests: it stands at a point, may cover a rectangle as a picture
-// does, and carries a label of its own when it has a text, as stars and planets do.
+// A sky object a test puts on the map or hands to the labels: it stands at a sky position and a
+// display point, is shown whatever the limiting magnitude as one white pixel, may cover a
+// rectangle as a picture does, and carries a label of its own when given a font.
+#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "catalogues/AstroObject.h"
+#include "platform/TDC.h"
 #include "platform/TFont.h"
 #include "skyview/FontRef.h"
 #include "skyview/Label.h"
@@ -12,42 +15,55 @@
 class MarkedObject : public AstroObject
 {
 public:
-    MarkedObject(const TPoint& point, const std::string& text, FontRef& font,
+    MarkedObject(ObjectType type, const PolarCoord& position, const std::string& name,
+                 std::uint32_t uid = 0, FontRef* font = nullptr, const TRect& picture = TRect())
+        : AstroObject(type), Position(position), nUid(uid), Picture(picture)
+    {
+        if (font) {
+            pOwn = std::make_unique<Label>(name, *this, *font, TColor::White);
+        }
+    }
+    // An object at a display point, labelled when it has a name.
+    MarkedObject(const TPoint& point, const std::string& name, FontRef& font,
                  const TRect& picture = TRect())
-        : AstroObject(ObjectType::OtherObject), Point(point), Picture(picture),
-          Own(text, *this, font, TColor::White), bLabeled(!text.empty())
-    {}
+        : MarkedObject(ObjectType::OtherObject, PolarCoord(), name, 0,
+                       name.empty() ? nullptr : &font, picture)
+    {
+        SetDisplayPoint(point);
+    }
 
-    PolarCoord GetPosition() const override { return PolarCoord(); }
+    PolarCoord GetPosition() const override { return Position; }
+    double GetMagnitude() const override { return -50.0; }
     const TPoint& GetDisplayPoint() const override { return Point; }
     void SetDisplayPoint(const TPoint& point) override
     {
         Point = point;
-        Own.UpdateObjectPoint();
+        if (pOwn) {
+            pOwn->UpdateObjectPoint();
+        }
     }
     bool IsTimeDependent() const override { return false; }
-    bool IsLabeled(const DisplayParameters&) const override { return bLabeled; }
-    Label* GetLabel(DisplayParameters&) override { return bGivesLabel ? &Own : nullptr; }
+    bool IsLabeled(const DisplayParameters&) const override { return pOwn != nullptr; }
+    Label* GetLabel(DisplayParameters&) override { return bGivesLabel ? pOwn.get() : nullptr; }
     bool HasDisplayRect() const override { return !Picture.IsEmpty(); }
     TRect GetDisplayRect(DisplayParameters&) const override { return Picture; }
-    void Draw(TDC&, DisplayParameters&) override {}
+    std::uint32_t GetUid() const override { return nUid; }
+    void Draw(TDC& dc, DisplayParameters&) override { dc.SetPixel(Point, TColor::White); }
 
-    // A label that stands centred on the object's point, as a constellation's name does.
-    void MakeFixed() { Own.SetFixedPoint(Point, true); }
     // Says it is labelled but has no label to give.
     void GiveNoLabel() { bGivesLabel = false; }
-    Label& GetOwnLabel() { return Own; }
 
 private:
-    TPoint Point;
+    PolarCoord Position;
+    std::uint32_t nUid;
     TRect Picture;
-    Label Own;
-    bool bLabeled;
+    TPoint Point;
+    std::unique_ptr<Label> pOwn;
     bool bGivesLabel = true;
 };
 
 // The star label font at 96 dots per inch, "Arial" 13 pixels high, in a FontRef of its own:
-// "X" measures 8 by 14 pixels, "I" 3 by 14 and "-" 4 by 14.
+// "X" measures 8 by 14 pixels and "I" 3 by 14.
 inline FontRef* NewTestLabelFont()
 {
     return new FontRef(std::make_unique<TFont>("Arial", 13, 0, 0, 0, FW_NORMAL, 0, false, false,

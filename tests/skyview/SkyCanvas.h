@@ -1,11 +1,8 @@
 #pragma once
 // An off-screen sky as the map makes it: a bottom-up 8-bit DIB section with the host palette,
 // selected into a memory context of a 96-dpi screen, its bits handed to a DisplayParameters.
-// Pictures of it are text, one character per pixel by palette index, so that a test states
-// the exact pixels it expects.
-#include <gtest/gtest.h>
-
-#include <cstring>
+// Pictures of it are text, one character per pixel by palette index, so that a test states the
+// exact pixels it expects.
 #include <map>
 #include <memory>
 #include <string>
@@ -23,7 +20,8 @@ class SkyCanvas
 {
 public:
     // `width` should be a multiple of 8, as the map's bitmap is.
-    SkyCanvas(int width, int height) : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, Caps())
+    SkyCanvas(int width, int height)
+        : Screen(1, 1, PixelFormat::Rgb32), ScreenDc(Screen, DeviceCaps{})
     {
         Dc = std::make_unique<TMemoryDC>(ScreenDc);
         Dc->SelectObject(HostPalette());
@@ -39,14 +37,11 @@ public:
     }
     ~SkyCanvas()
     {
-        Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{});
+        WithoutFastBits();
         Dc.reset();
         Bitmap.reset();
         DeleteObject(hBitmap);
     }
-
-    // A 96-dpi screen, whatever the environment says.
-    static DeviceCaps Caps() { return DeviceCaps{}; }
 
     // Sends stars through SetPixel, as when printing.
     void WithoutFastBits() { Parameters.SetFastDrawBitmapBits(nullptr, BITMAPINFOHEADER{}); }
@@ -54,6 +49,14 @@ public:
     Surface& GetSurface() { return Dc->GetSurface(); }
     TDC& GetDC() { return *Dc; }
     unsigned IndexAt(int x, int y) { return GetSurface().ValueAt(x, y); }
+    void Fill(unsigned index)
+    {
+        for (int y = 0; y < GetSurface().Height(); ++y) {
+            for (int x = 0; x < GetSurface().Width(); ++x) {
+                GetSurface().SetValue(x, y, index);
+            }
+        }
+    }
 
     // '.' for the night sky (index 0), '#' for white (255) and the characters of `legend` for
     // other indexes; '?' for anything else.
@@ -62,19 +65,17 @@ public:
         std::string text;
         for (int y = area.top; y < area.bottom; ++y) {
             for (int x = area.left; x < area.right; ++x) {
-                unsigned index = IndexAt(x, y);
-                auto found = legend.find(index);
-                text += found != legend.end()  ? found->second
-                        : index == 0           ? '.'
-                        : index == kWhiteIndex ? '#'
-                                               : '?';
+                const unsigned index = IndexAt(x, y);
+                const auto found = legend.find(index);
+                text += found != legend.end()        ? found->second
+                        : index == 0                 ? '.'
+                        : index == kHostPaletteWhite ? '#'
+                                                     : '?';
             }
             text += '\n';
         }
         return text;
     }
-
-    static constexpr unsigned kWhiteIndex = kHostPaletteWhite;
 
     DisplayParameters Parameters;
 
