@@ -4,7 +4,7 @@
 #include "coords/LatLong.h"
 #include "state/CmdLineStateContainer.h"
 
-TEST(LatLong, SetReadsHemisphereAndSideLettersOnlyAsWholeTokens)
+TEST(LatLong, ReadsHemisphereAndSideLettersOnlyAsWholeTokensAndStoresALevel)
 {
     // Text, whether it reads, and latitude and longitude after reading into a place at (1, 2).
     const std::tuple<const char*, bool, double, double> rows[] = {
