@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "ScratchFile.h"
 #include "coords/DegreeRange.h"
 #include "host/HostFile.h"
@@ -20,194 +18,63 @@ bool Holds(const DegreeRange& range, double angle)
     return range.Contains(DegreeAngle(angle));
 }
 
-void ExpectRange(const DegreeRange& range, double center, double halfWidth)
-{
-    EXPECT_FALSE(range.IsFull());
-    EXPECT_FALSE(range.IsEmpty());
-    EXPECT_NEAR(range.GetCenter().GetDegrees(), center, 1e-12);
-    EXPECT_NEAR(range.GetHalfWidth().GetDegrees(), halfWidth, 1e-12);
-}
-
 } // namespace
 
-TEST(DegreeRange, FullAndEmptyRanges)
+TEST(DegreeRange, ContainsAndIntersectsTheShortWayRoundWithTheEndsIncluded)
 {
-    DegreeRange full(true), empty(false), byDefault;
-    EXPECT_TRUE(full.IsFull());
-    EXPECT_FALSE(full.IsEmpty());
-    EXPECT_TRUE(empty.IsEmpty());
-    EXPECT_TRUE(byDefault.IsEmpty());
-    for (double angle : {0.0, 90.0, 359.9, -720.0}) {
-        EXPECT_TRUE(Holds(full, angle));
-        EXPECT_FALSE(Holds(empty, angle));
-    }
-    // Full is tested before empty, so a full range meets even an empty one.
-    EXPECT_TRUE(full.Intersects(empty));
-    EXPECT_TRUE(empty.Intersects(full));
-    EXPECT_FALSE(empty.Intersects(Range(10, 5)));
-    EXPECT_FALSE(Range(10, 5).Intersects(empty));
-    EXPECT_TRUE(full.Intersects(Range(10, 5)));
-    EXPECT_EQ(full.GetMinimum(), 0.0);
-    EXPECT_EQ(full.GetMaximum(), 360.0);
-}
-
-TEST(DegreeRange, FromTwoEndsTakesThePlainMiddle)
-{
-    ExpectRange(DegreeRange(10.0, 50.0, 0), 30.0, 20.0);
-    ExpectRange(DegreeRange(50.0, 10.0, 0), 30.0, 20.0);
-    // No search for the seam: the long way round.
-    ExpectRange(DegreeRange(350.0, 10.0, 0), 180.0, 170.0);
-    ExpectRange(DegreeRange(DegreeAngle(-10.0), DegreeAngle(10.0), 7), 0.0, 10.0);
-}
-
-TEST(DegreeRange, DifferenceIsTheShorterWayRound)
-{
-    auto difference = [](double a, double b) {
-        return DegreeRange::GetDifference(DegreeAngle(a), DegreeAngle(b)).GetDegrees();
+    // Centre, half width, angle, and whether the range holds the angle.
+    const double rows[][4] = {
+        {350, 20, 5, true},       {350, 20, 335, true},      {350, 20, 10, true},
+        {350, 20, 330, true},     {350, 20, -20, true},      {350, 20, 20, false},
+        {350, 20, 10.001, false}, {350, 20, 329.999, false}, {350, 20, 170, false},
+        {0, 10, -350, true},      {-350, 20, 350, true},     {-300, 20, 300, false},
     };
-    EXPECT_EQ(difference(10, 350), 20.0);
-    EXPECT_EQ(difference(350, 10), 20.0);
-    EXPECT_EQ(difference(0, 180), 180.0);
-    EXPECT_EQ(difference(0, 181), 179.0);
-    EXPECT_EQ(difference(-10, 10), 20.0);
-    EXPECT_EQ(difference(-350, 10), 0.0);
-    EXPECT_EQ(difference(360, 0), 0.0);
-    // Angles at opposite ends of the normal range are still a short way apart.
-    EXPECT_EQ(difference(-350, 350), 20.0);
-    EXPECT_EQ(difference(-300, 300), 120.0);
-}
-
-TEST(DegreeRange, ContainsAcrossTheSeamWithTheEndsIncluded)
-{
-    DegreeRange range = Range(350, 20);
-    EXPECT_TRUE(Holds(range, 5));
-    EXPECT_TRUE(Holds(range, 335));
-    EXPECT_TRUE(Holds(range, 10));
-    EXPECT_TRUE(Holds(range, 330));
-    EXPECT_TRUE(Holds(range, -20));
-    EXPECT_FALSE(Holds(range, 20));
-    EXPECT_FALSE(Holds(range, 10.001));
-    EXPECT_FALSE(Holds(range, 329.999));
-    EXPECT_FALSE(Holds(range, 170));
-}
-
-TEST(DegreeRange, IntersectsByTheDistanceOfTheCentres)
-{
-    // 25 degrees apart across the seam: touching ends meet.
+    for (const auto& row : rows) {
+        EXPECT_EQ(Holds(Range(row[0], row[1]), row[2]), row[3] != 0)
+            << row[0] << " +- " << row[1] << " holding " << row[2];
+    }
     EXPECT_TRUE(Range(350, 10).Intersects(Range(15, 15)));
-    EXPECT_TRUE(Range(350, 10).Intersects(Range(10, 10)));
     EXPECT_FALSE(Range(350, 10).Intersects(Range(15, 14)));
-    EXPECT_FALSE(Range(0, 10).Intersects(Range(180, 10)));
-    EXPECT_TRUE(Range(0, 90).Intersects(Range(180, 90)));
+    // Full is asked before empty, so a full range meets even an empty one.
+    const DegreeRange full(true), empty(false);
+    EXPECT_TRUE(Holds(full, -720.0));
+    EXPECT_FALSE(Holds(empty, 0.0));
+    EXPECT_TRUE(full.Intersects(empty) && empty.Intersects(full));
+    EXPECT_FALSE(empty.Intersects(Range(10, 5)) || Range(10, 5).Intersects(empty));
+    // From two ends the constructor takes the plain middle and does not look for the seam.
+    EXPECT_TRUE(Holds(DegreeRange(350.0, 10.0, 0), 180.0));
+    EXPECT_FALSE(Holds(DegreeRange(350.0, 10.0, 0), 0.0));
 }
 
-TEST(DegreeRange, EncloseKeepsTheFarEndAndMovesTheNear)
+TEST(DegreeRange, EncloseKeepsTheFarEndAndMovesTheNearOneToTheAngle)
 {
-    DegreeRange range = Range(10, 5);
-    DegreeAngle angle(20.0);
-    range.Enclose(angle);
-    ExpectRange(range, 12.5, 7.5);
-    EXPECT_EQ(angle.GetDegrees(), 20.0);
-
-    range = Range(10, 5);
-    angle = 0.0;
-    range.Enclose(angle);
-    ExpectRange(range, 7.5, 7.5);
-}
-
-TEST(DegreeRange, EncloseAcrossTheSeamFromBelow)
-{
-    DegreeRange range = Range(10, 5);
-    DegreeAngle angle(350.0);
-    range.Enclose(angle);
-    ExpectRange(range, 2.5, 12.5);
-    EXPECT_EQ(angle.GetDegrees(), 350.0);
-    EXPECT_TRUE(Holds(range, 355));
-    EXPECT_TRUE(Holds(range, 15));
-}
-
-TEST(DegreeRange, EncloseAcrossTheSeamFromAboveChangesTheCallersAngle)
-{
-    DegreeRange range = Range(350, 5);
-    DegreeAngle angle(10.0);
-    range.Enclose(angle);
-    ExpectRange(range, 357.5, 12.5);
-    EXPECT_EQ(angle.GetDegrees(), 370.0);
-}
-
-TEST(DegreeRange, EncloseOfAContainedAngleChangesNothing)
-{
-    DegreeRange range = Range(350, 20);
-    DegreeAngle angle(5.0);
-    range.Enclose(angle);
-    ExpectRange(range, 350, 20);
-    EXPECT_EQ(angle.GetDegrees(), 5.0);
-
-    DegreeRange full(true);
-    full.Enclose(angle);
-    EXPECT_TRUE(full.IsFull());
-}
-
-TEST(DegreeRange, EncloseGrowsAnEmptyRangeFromOnePoint)
-{
-    DegreeRange range;
-    DegreeAngle first(42.0), second(40.0);
-    range.Enclose(first);
-    ExpectRange(range, 42.0, 0.0);
-    range.Enclose(second);
-    ExpectRange(range, 41.0, 1.0);
-}
-
-TEST(DegreeRange, EncloseOfNegativeAnglesStaysTheShortWay)
-{
-    DegreeRange range = Range(10, 5);
-    DegreeAngle angle(-10.0);
-    range.Enclose(angle);
-    ExpectRange(range, 2.5, 12.5);
-
-    // Centre and angle at opposite ends of the normal range, two turns apart in number.
-    range = Range(-300, 5);
-    angle = 300.0;
-    range.Enclose(angle);
-    EXPECT_NEAR(range.GetHalfWidth().GetDegrees(), 62.5, 1e-12);
-    EXPECT_TRUE(Holds(range, -60));
-    EXPECT_TRUE(Holds(range, 65));
-    EXPECT_FALSE(Holds(range, 180));
-}
-
-TEST(DegreeRange, EncloseOfManyPointsHoldsThemAll)
-{
-    DegreeRange range;
-    std::vector<double> points = {355, 2, 350, 8, 345.5, 12};
-    for (double point : points) {
-        DegreeAngle angle(point);
+    // Centre, half width, angle; then the new centre, half width and the caller's angle, which
+    // is carried into the frame of the centre when it crosses the seam from above.
+    const double rows[][6] = {
+        {10, 5, 20, 12.5, 7.5, 20},     {10, 5, 0, 7.5, 7.5, 0},
+        {10, 5, 350, 2.5, 12.5, 350},   {10, 5, -10, 2.5, 12.5, -10},
+        {350, 5, 10, 357.5, 12.5, 370}, {350, 20, 5, 350, 20, 5},
+        {-300, 5, 300, 2.5, 62.5, 300},
+    };
+    for (const auto& row : rows) {
+        DegreeRange range = Range(row[0], row[1]);
+        DegreeAngle angle;
+        angle = row[2];
         range.Enclose(angle);
+        EXPECT_NEAR(range.GetCenter().GetDegrees(), row[3], 1e-12) << row[0] << " with " << row[2];
+        EXPECT_NEAR(range.GetHalfWidth().GetDegrees(), row[4], 1e-12) << row[0] << " " << row[2];
+        EXPECT_EQ(angle.GetDegrees(), row[5]) << row[0] << " with " << row[2];
     }
-    for (double point : points) {
-        EXPECT_TRUE(Holds(range, point)) << point;
-    }
-    ExpectRange(range, 358.75, 13.25);
-}
-
-TEST(DegreeRange, EncloseHoldsTheFarEndWhereTheHalvingRounds)
-{
-    // The stars of a constellation's figure: halving 221.9655 + 250.7694 rounds the centre
-    // a little towards the far end.
-    DegreeRange ra;
-    for (double point : {221.9655, 248.3628, 250.7694}) {
-        DegreeAngle angle(point);
-        ra.Enclose(angle);
-    }
-    EXPECT_TRUE(Holds(ra, 221.9655));
-    EXPECT_TRUE(Holds(ra, 250.7694));
-    // A declination range that grows down from the pole keeps the pole.
-    DegreeRange dec;
-    for (double point : {88.66, 90.0, 65.4058151}) {
-        DegreeAngle angle(point);
-        dec.Enclose(angle);
-    }
-    EXPECT_TRUE(Holds(dec, 90.0));
-    EXPECT_TRUE(Holds(dec, 65.4058151));
+    // An empty range grows from its first point; a full one stays full.
+    DegreeRange grown, full(true);
+    DegreeAngle first(42.0), second(40.0);
+    grown.Enclose(first);
+    EXPECT_TRUE(Holds(grown, 42.0) && !Holds(grown, 42.1));
+    grown.Enclose(second);
+    EXPECT_EQ(grown.GetCenter().GetDegrees(), 41.0);
+    EXPECT_EQ(grown.GetHalfWidth().GetDegrees(), 1.0);
+    full.Enclose(first);
+    EXPECT_TRUE(full.IsFull());
 }
 
 TEST(DegreeRange, DumpAndLoadKeepFullEmptyAndOrdinaryRanges)
@@ -215,42 +82,18 @@ TEST(DegreeRange, DumpAndLoadKeepFullEmptyAndOrdinaryRanges)
     ScratchFile scratch;
     {
         HostFile file(scratch.GetPath(), HostFile::WriteNew);
-        EXPECT_TRUE(DegreeRange(true).Dump(file));
-        EXPECT_TRUE(DegreeRange(false).Dump(file));
-        EXPECT_TRUE(Range(22.5, 22.5).Dump(file));
-        EXPECT_TRUE(Range(42.0, 0.0).Dump(file));
+        for (const DegreeRange& range :
+             {DegreeRange(true), DegreeRange(false), Range(22.5, 22.5), Range(42.0, 0.0)}) {
+            EXPECT_TRUE(range.Dump(file));
+        }
     }
-    std::vector<unsigned char> bytes = scratch.Bytes();
-    ASSERT_EQ(bytes.size(), 64u);
-    // A full range is (0, 360): 360.0 is 0x4076800000000000.
-    EXPECT_EQ(
-        std::vector<unsigned char>(bytes.begin(), bytes.begin() + 16),
-        (std::vector<unsigned char>{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x80, 0x76, 0x40}));
-    // An empty range is (0, 0).
-    EXPECT_EQ(std::vector<unsigned char>(bytes.begin() + 16, bytes.begin() + 32),
-              std::vector<unsigned char>(16, 0));
-
     HostFile file(scratch.GetPath(), HostFile::ReadOnly);
     DegreeRange full, empty(true), ordinary, point(true);
-    ASSERT_TRUE(full.Load(file));
-    ASSERT_TRUE(empty.Load(file));
-    ASSERT_TRUE(ordinary.Load(file));
-    ASSERT_TRUE(point.Load(file));
+    ASSERT_TRUE(full.Load(file) && empty.Load(file) && ordinary.Load(file) && point.Load(file));
     EXPECT_TRUE(full.IsFull());
-    EXPECT_FALSE(full.IsEmpty());
-    EXPECT_TRUE(empty.IsEmpty());
-    EXPECT_FALSE(empty.IsFull());
-    ExpectRange(ordinary, 22.5, 22.5);
-    // A range of one point comes back empty.
-    EXPECT_TRUE(point.IsEmpty());
-
-    DegreeRange past(true);
-    EXPECT_FALSE(past.Load(file));
-    EXPECT_TRUE(past.IsFull());
-}
-
-TEST(DegreeRange, DumpReportsAShortWrite)
-{
-    HostFile closed;
-    EXPECT_FALSE(Range(10, 5).Dump(closed));
+    EXPECT_TRUE(empty.IsEmpty() && !empty.IsFull());
+    EXPECT_TRUE(Holds(ordinary, 45.0) && !Holds(ordinary, 45.1));
+    EXPECT_TRUE(point.IsEmpty()) << "a range of one point comes back empty";
+    EXPECT_FALSE(full.Load(file)) << "past the end";
+    EXPECT_TRUE(full.IsFull());
 }

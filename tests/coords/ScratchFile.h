@@ -15,9 +15,9 @@ public:
     ScratchFile()
     {
         static int count = 0;
-        const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-        Path = testing::TempDir() + "coords_" + std::to_string(::getpid()) + "_" + test->name() +
-               "_" + std::to_string(count++) + ".bin";
+        Path = testing::TempDir() + "coords_" + std::to_string(::getpid()) + "_" +
+               testing::UnitTest::GetInstance()->current_test_info()->name() + "_" +
+               std::to_string(count++) + ".bin";
     }
     ~ScratchFile() { std::remove(Path.c_str()); }
 
@@ -26,15 +26,14 @@ public:
     std::vector<unsigned char> Bytes() const
     {
         std::ifstream in(Path, std::ios::binary);
-        return std::vector<unsigned char>(std::istreambuf_iterator<char>(in),
-                                          std::istreambuf_iterator<char>());
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     }
 
     void WriteBytes(const std::vector<unsigned char>& bytes) const
     {
-        std::ofstream out(Path, std::ios::binary);
-        out.write(reinterpret_cast<const char*>(bytes.data()),
-                  static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(Path, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
     }
 
 private:

@@ -1,116 +1,44 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <unistd.h>
 
 #include "host/HostFile.h"
+#include "host/ScopedHome.h"
 
-namespace {
-
-// Points the logical data directory at a temporary tree for one test.
-class HostFileTest : public ::testing::Test
+TEST(HostFile, LogicalPathsFindTheDataFilesWhateverTheCase)
 {
-protected:
-    void SetUp() override
-    {
-        Dir = std::filesystem::temp_directory_path() /
-              ("hostfile-" + std::to_string(::getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::create_directories(Dir / "Sub");
-        std::ofstream(Dir / "strings.txt") << "x";
-        std::ofstream(Dir / "Sub" / "Stars.Bin") << "y";
-        const char* old = std::getenv("ORBISCOPE_DATA");
-        OldData = old ? old : "";
-        ::setenv("ORBISCOPE_DATA", Dir.c_str(), 1);
+    const ScopedHome data;
+    std::filesystem::create_directories(data.File("Sub"));
+    data.WriteFile("Sub/Stars.Bin", "y");
+    const std::string before = HostFile::DataDirectory();
+    ::setenv("ORBISCOPE_DATA", data.Path().c_str(), 1);
+    for (const auto& [logical, real] : {std::pair("ED:\\sub\\stars.bin", "Sub/Stars.Bin"),
+                                        {"cd:\\win32\\SUB\\stars.BIN", "Sub/Stars.Bin"}}) {
+        std::string path = logical;
+        HostFile::ResolvePath(path);
+        EXPECT_EQ(path, data.File(real)) << logical;
     }
-    void TearDown() override
-    {
-        if (OldData.empty()) {
-            ::unsetenv("ORBISCOPE_DATA");
-        } else {
-            ::setenv("ORBISCOPE_DATA", OldData.c_str(), 1);
-        }
-        std::filesystem::remove_all(Dir);
-    }
-    std::string Resolved(std::string path)
-    {
-        HostFile::ResolvePath(path, true, false);
-        return path;
-    }
-
-    std::filesystem::path Dir;
-    std::string OldData;
-};
-
-} // namespace
-
-TEST_F(HostFileTest, LogicalPrefixesPointAtTheDataDirectoryWhateverTheCase)
-{
-    EXPECT_EQ(Resolved("ed:\\STRINGS.TXT"), (Dir / "strings.txt").string());
-    EXPECT_EQ(Resolved("ED:\\sub\\stars.bin"), (Dir / "Sub" / "Stars.Bin").string());
-    EXPECT_EQ(Resolved("cd:\\win32\\Strings.txt"), (Dir / "strings.txt").string());
+    ::setenv("ORBISCOPE_DATA", before.c_str(), 1);
 }
 
-TEST_F(HostFileTest, MissingNamesStayAsGivenWithSlashes)
+TEST(HostFile, NumbersGoLowByteFirstAndShortReadsAndClosedFilesFailQuietly)
 {
-    EXPECT_EQ(Resolved("ed:\\new\\File.txt"), (Dir / "new" / "File.txt").string());
-    EXPECT_EQ(Resolved((Dir / "SUB" / "none.txt").string()), (Dir / "Sub" / "none.txt").string());
-}
-
-TEST_F(HostFileTest, ReadsWritesAndSeeksByteExact)
-{
-    std::string path = (Dir / "bytes.bin").string();
-    const unsigned char data[] = {0, 1, 0xFF, '\n', '\r', 7};
+    const ScopedHome home;
+    const std::string path = home.File("numbers.bin");
     {
         HostFile out(path, HostFile::WriteNew);
-        ASSERT_TRUE(out.IsOpen());
-        EXPECT_EQ(out.Write(data, sizeof data), sizeof data);
-    }
-    HostFile in(path, HostFile::ReadOnly);
-    ASSERT_TRUE(in.IsOpen());
-    EXPECT_EQ(in.Length(), 6);
-    ASSERT_TRUE(in.Seek(2));
-    unsigned char buffer[8] = {};
-    EXPECT_EQ(in.Read(buffer, sizeof buffer), 4u);
-    EXPECT_EQ(buffer[0], 0xFF);
-    EXPECT_EQ(buffer[3], 7);
-    EXPECT_EQ(in.Tell(), 6);
-}
-
-TEST_F(HostFileTest, NumbersGoInTheFilesByteOrderAndAShortReadFails)
-{
-    std::string path = (Dir / "numbers.bin").string();
-    {
-        HostFile out(path, HostFile::WriteNew);
-        EXPECT_TRUE(out.WriteInt32(-2));
-        EXPECT_TRUE(out.WriteDouble(101.287));
+        EXPECT_TRUE(out.WriteInt32(-2) && out.WriteDouble(1.0));
         EXPECT_EQ(out.Write("\x01\x02", 2), 2u);
     }
+    EXPECT_EQ(home.ReadFile("numbers.bin"),
+              std::string("\xFE\xFF\xFF\xFF\0\0\0\0\0\0\xF0\x3F\x01\x02", 14));
     HostFile in(path, HostFile::ReadOnly);
-    EXPECT_EQ(in.Length(), 14);
-    unsigned char first[4] = {};
-    ASSERT_EQ(in.Read(first, 4), 4u);
-    EXPECT_EQ(first[0], 0xFE);
-    EXPECT_EQ(first[3], 0xFF);
-    ASSERT_TRUE(in.Seek(0));
     std::int32_t whole = 0;
     double place = 0.0;
-    EXPECT_TRUE(in.ReadInt32(whole));
+    EXPECT_TRUE(in.ReadInt32(whole) && in.ReadDouble(place));
     EXPECT_EQ(whole, -2);
-    EXPECT_TRUE(in.ReadDouble(place));
-    EXPECT_EQ(place, 101.287);
+    EXPECT_EQ(place, 1.0);
     EXPECT_FALSE(in.ReadInt32(whole)) << "two bytes are left, not four";
-}
-
-TEST_F(HostFileTest, ClosedFileAnswersQuietly)
-{
-    HostFile file;
-    EXPECT_FALSE(file.Open((Dir / "absent.bin").string(), HostFile::ReadOnly));
-    char c;
-    EXPECT_EQ(file.Read(&c, 1), 0u);
-    EXPECT_EQ(file.Write(&c, 1), 0u);
-    EXPECT_FALSE(file.Seek(0));
-    EXPECT_EQ(file.Tell(), -1);
+    HostFile closed(home.File("absent.bin"), HostFile::ReadOnly);
+    EXPECT_FALSE(closed.IsOpen() || closed.Seek(0) || closed.ReadInt32(whole));
 }

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 
 #include <unistd.h>
@@ -15,20 +16,15 @@ public:
     {
         std::string pattern =
             (std::filesystem::temp_directory_path() / "orbiscope-home-XXXXXX").string();
-        char* made = ::mkdtemp(pattern.data());
-        Directory = made ? made : pattern;
-        const char* before = std::getenv("ORBISCOPE_HOME");
-        bHadBefore = before != nullptr;
-        Before = before ? before : "";
+        Directory = ::mkdtemp(pattern.data()) ? pattern : pattern + "-unmade";
+        if (const char* before = std::getenv("ORBISCOPE_HOME")) {
+            Before = before;
+        }
         ::setenv("ORBISCOPE_HOME", Directory.c_str(), 1);
     }
     ~ScopedHome()
     {
-        if (bHadBefore) {
-            ::setenv("ORBISCOPE_HOME", Before.c_str(), 1);
-        } else {
-            ::unsetenv("ORBISCOPE_HOME");
-        }
+        Before ? ::setenv("ORBISCOPE_HOME", Before->c_str(), 1) : ::unsetenv("ORBISCOPE_HOME");
         std::error_code ignored;
         std::filesystem::remove_all(Directory, ignored);
     }
@@ -37,7 +33,6 @@ public:
 
     const std::string& Path() const { return Directory; }
     std::string File(const std::string& name) const { return Directory + "/" + name; }
-
     void WriteFile(const std::string& name, const std::string& text) const
     {
         std::ofstream(File(name), std::ios::binary) << text;
@@ -50,6 +45,5 @@ public:
 
 private:
     std::string Directory;
-    std::string Before;
-    bool bHadBefore = false;
+    std::optional<std::string> Before;
 };

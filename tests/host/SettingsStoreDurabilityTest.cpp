@@ -42,11 +42,6 @@ bool IsWholePattern(const std::string& text, int& number)
     return text == PatternValue(number);
 }
 
-std::string ValueName(int i)
-{
-    return "Value" + std::to_string(i);
-}
-
 // Where value `i` goes: a new subkey every 25 values, so key creation is part of the stream.
 std::string KeyPath(int i)
 {
@@ -62,35 +57,31 @@ LONG WriteValue(int i)
         return result;
     }
     std::string text = PatternValue(i);
-    result = RegSetValueExA(key, ValueName(i).c_str(), 0, REG_SZ,
+    result = RegSetValueExA(key, ("Value" + std::to_string(i)).c_str(), 0, REG_SZ,
                             reinterpret_cast<const BYTE*>(text.c_str()),
                             static_cast<DWORD>(text.size() + 1));
     RegCloseKey(key);
     return result;
 }
 
-// The value `i` as stored, or "<missing>".
+// The value `i` as stored, "<missing>", or "<torn>" when it does not end in its zero.
 std::string ReadValue(int i)
 {
     HKEY key = nullptr;
-    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, KeyPath(i).c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
+    std::vector<BYTE> data(16384);
+    DWORD size = static_cast<DWORD>(data.size());
+    LONG found = RegOpenKeyExA(HKEY_LOCAL_MACHINE, KeyPath(i).c_str(), 0, KEY_READ, &key);
+    if (found == ERROR_SUCCESS) {
+        found = RegQueryValueExA(key, ("Value" + std::to_string(i)).c_str(), nullptr, nullptr,
+                                 data.data(), &size);
+        RegCloseKey(key);
+    }
+    if (found != ERROR_SUCCESS) {
         return "<missing>";
     }
-    std::string result = "<missing>";
-    DWORD size = 0;
-    if (RegQueryValueExA(key, ValueName(i).c_str(), nullptr, nullptr, nullptr, &size) ==
-        ERROR_SUCCESS) {
-        std::vector<BYTE> data(size);
-        if (RegQueryValueExA(key, ValueName(i).c_str(), nullptr, nullptr, data.data(), &size) ==
-                ERROR_SUCCESS &&
-            size > 0 && data[size - 1] == 0) {
-            result.assign(reinterpret_cast<const char*>(data.data()), size - 1);
-        } else {
-            result = "<torn>";
-        }
-    }
-    RegCloseKey(key);
-    return result;
+    return size > 0 && data[size - 1] == 0
+               ? std::string(reinterpret_cast<const char*>(data.data()), size - 1)
+               : "<torn>";
 }
 
 // Runs `body` in a child process that never returns into the test framework.
@@ -123,8 +114,7 @@ TEST(SettingsStoreDurability, AKilledWriterLosesNothingItHadWritten)
 {
     ScopedHome home;
     int confirmed = 0; // values 0 .. confirmed - 1 were reported written
-    const int kRounds = 4;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < 4; ++round) {
         int channel[2];
         ASSERT_EQ(::pipe(channel), 0);
         const int first = confirmed;
