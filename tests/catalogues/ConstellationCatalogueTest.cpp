@@ -298,7 +298,7 @@ TEST_F(ConstellationFilesTest, BoundaryPointsAreHoursAndDegreesWithZeroDeclinati
     const Constellation& andromeda = *catalogue->FindConstellationWithAbbreviation("And");
     const std::vector<PolarCoord>& points = andromeda.GetBoundaryPoints();
     ASSERT_EQ(points.size(), 4u);
-    EXPECT_EQ(points[0].GetRA().GetDegrees(), -7.5);
+    EXPECT_EQ(points[0].GetRA().GetDegrees(), 352.5);
     EXPECT_EQ(points[0].GetDec().GetDegrees(), 0.0);
     EXPECT_EQ(points[1].GetDec().GetDegrees(), 0.0);
     EXPECT_EQ(points[2], PolarCoord(7.5, 30.25));
@@ -647,4 +647,39 @@ TEST_F(ConstellationFilesTest, DumpWritesConstbdBinInTheWorkingDirectory)
     std::filesystem::current_path(before);
     ASSERT_TRUE(dumped);
     EXPECT_EQ(pDir->ReadBytes("constbd.bin").size(), 3u + 4u + 16u);
+}
+
+TEST_F(ConstellationFilesTest, ReadersKeepRightAscensionWithinOneTurnAndRangesHoldEveryPoint)
+{
+    struct Case
+    {
+        bool bBoundary;
+        std::string text;
+        std::vector<double> ras;
+    };
+    const Case cases[] = {
+        {true, "23 3 And\n. 2 And\n-4 1 And\n", {345, 0, 300}},
+        {true, "-24 10 And\n24 10 And\n-0.5 10 And\n-23.5 10 And\n", {0, 0, 352.5, 7.5}},
+        {false, "And,345,0,0,0\nAnd,-60,0,-60,0\n", {345, 0, 300, 300}},
+        {false, "And,-360,0,360,1\nAnd,-0.25,0,359.75,1\n", {0, 0, 359.75, 359.75}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.text);
+        auto catalogue = Catalogue();
+        if (c.bBoundary) {
+            catalogue->LoadBoundaryInfo(*Open("bounds.txt", c.text));
+        } else {
+            catalogue->LoadFigureInfo(*Open("figures.txt", c.text));
+        }
+        const Constellation& andromeda = *catalogue->FindConstellationWithAbbreviation("And");
+        const std::vector<PolarCoord>& points =
+            c.bBoundary ? andromeda.GetBoundaryPoints() : andromeda.GetFigurePoints();
+        const SkyRange& range =
+            c.bBoundary ? andromeda.GetBoundaryRange() : andromeda.GetFigureRange();
+        ASSERT_EQ(points.size(), c.ras.size());
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            EXPECT_EQ(points[i].GetRA().GetDegrees(), c.ras[i]) << i;
+            EXPECT_TRUE(range.Contains(points[i])) << i;
+        }
+    }
 }
