@@ -4,18 +4,18 @@
 // them, answers requests over the whole sky, draws figures, boundaries, centres and labels on
 // a small surface, and writes its boundary dump and its centre file.
 //
-// Beyond "no crash": figures come in pairs; every point read names a direction on the sphere
-// and lies in its constellation's range (but for rounding); every constellation listed for a
-// view has a figure.
+// Beyond "no crash": figures come in pairs; every point read names a direction on the sphere,
+// its RA within one turn, and lies in its constellation's range; every constellation listed
+// for a view has a figure. The files live in one scratch folder, emptied after each input.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
+#include "FuzzScratch.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/CatalogueSet.h"
 #include "catalogues/ConstellationCatalogue.h"
@@ -30,34 +30,23 @@
 
 namespace {
 
-std::string ScratchPath(const std::string& what)
+// The four files of an input and the two the catalogue writes, in one folder emptied after
+// each input and removed at the end.
+FuzzScratch& Scratch()
 {
-    const char* dir = std::getenv("TMPDIR");
-    return std::string(dir && *dir ? dir : "/tmp") + "/orbiscope-fuzz-const-" + what + "-" +
-           std::to_string(::getpid()) + ".txt";
-}
-
-bool WriteText(const std::string& path, const std::string& text)
-{
-    std::FILE* file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) {
-        return false;
-    }
-    std::fwrite(text.data(), 1, text.size(), file);
-    std::fclose(file);
-    return true;
+    static FuzzScratch scratch("constellations");
+    return scratch;
 }
 
 // Reads `text` as the file `what` and hands it to `read`.
 template <class Reader>
 void ReadAs(const std::string& what, const std::string& text, Reader read)
 {
-    const std::string path = ScratchPath(what);
-    if (!WriteText(path, text)) {
+    if (!Scratch().Write(what, text)) {
         return;
     }
     TextFile file;
-    if (file.OpenForReading(path.c_str())) {
+    if (file.OpenForReading(Scratch().Path(what).c_str())) {
         read(file);
     }
 }
@@ -71,25 +60,11 @@ void Check(bool condition, const char* what)
     }
 }
 
-// RA within a turn either way, Dec from pole to pole.
+// RA as the readers keep it, from 0 up to a turn; Dec from pole to pole.
 bool OnTheSphere(const PolarCoord& p)
 {
-    return std::fabs(p.GetRA().GetDegrees()) <= 360.0 && std::fabs(p.GetDec().GetDegrees()) <= 90.0;
-}
-
-// Within the range but for the rounding of its centre and half width, which can leave a point
-// that once was an end a few units of the last place outside.
-bool NearlyContains(const DegreeRange& range, const DegreeAngle& angle)
-{
-    constexpr double kRounding = 1e-9;
-    return range.IsFull() ||
-           (!range.IsEmpty() && DegreeRange::GetDifference(angle, range.GetCenter()).GetDegrees() <=
-                                    range.GetHalfWidth().GetDegrees() + kRounding);
-}
-
-bool NearlyContains(const SkyRange& range, const PolarCoord& p)
-{
-    return NearlyContains(range.GetRA(), p.GetRA()) && NearlyContains(range.GetDec(), p.GetDec());
+    const double ra = p.GetRA().GetDegrees();
+    return ra >= 0.0 && ra < 360.0 && std::fabs(p.GetDec().GetDegrees()) <= 90.0;
 }
 
 struct Sky
@@ -149,11 +124,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Check(c->GetFigurePoints().size() % 2 == 0, "figure points in pairs");
             for (const PolarCoord& p : c->GetFigurePoints()) {
                 Check(OnTheSphere(p), "figure point on the sphere");
-                Check(NearlyContains(c->GetFigureRange(), p), "figure range");
+                Check(c->GetFigureRange().Contains(p), "figure range");
             }
             for (const PolarCoord& p : c->GetBoundaryPoints()) {
                 Check(OnTheSphere(p), "boundary point on the sphere");
-                Check(NearlyContains(c->GetBoundaryRange(), p), "boundary range");
+                Check(c->GetBoundaryRange().Contains(p), "boundary range");
             }
             (void)c->GetCenter();
             (void)c->GetLabelPosition();
@@ -179,13 +154,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         list.Flush();
 
-        HostFile dump(ScratchPath("dump"), HostFile::WriteNew);
+        HostFile dump(Scratch().Path("dump.bin"), HostFile::WriteNew);
         catalogue.DumpBoundaryInfo(dump);
         TextFile centres;
-        if (centres.OpenForWriting(ScratchPath("written").c_str())) {
+        if (centres.OpenForWriting(Scratch().Path("written.txt").c_str())) {
             catalogue.WriteCenterInfo(centres);
         }
     }
     ConstellationCatalogue::FlushNameInfo();
+    Scratch().Empty();
     return 0;
 }

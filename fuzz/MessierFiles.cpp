@@ -4,12 +4,10 @@
 // buffer or ask for more memory than the file could fill.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
+#include "FuzzScratch.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/CatalogueSet.h"
 #include "catalogues/MessierCatalogue.h"
@@ -23,11 +21,12 @@
 
 namespace {
 
-std::string ScratchPath(const char* what)
+// The input and what the catalogue writes, in one folder emptied after each input and
+// removed at the end.
+FuzzScratch& Scratch()
 {
-    const char* dir = std::getenv("TMPDIR");
-    return std::string(dir && *dir ? dir : "/tmp") + "/orbiscope-fuzz-messier-" + what + "-" +
-           std::to_string(::getpid()) + ".bin";
+    static FuzzScratch scratch("messier");
+    return scratch;
 }
 
 // Both poles and the equator all round, in a wide field, made once.
@@ -77,17 +76,14 @@ void LookAt(MessierCatalogue& catalogue)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const std::string input = ScratchPath("in");
-    static const std::string output = ScratchPath("out");
+    const std::string input = Scratch().Path("in.bin");
+    const std::string output = Scratch().Path("out.bin");
     static const bool quiet = [] {
         SetDebugSink([](const char*) {});
         return true;
     }();
     (void)quiet;
-    if (std::FILE* file = std::fopen(input.c_str(), "wb")) {
-        std::fwrite(data, 1, size, file);
-        std::fclose(file);
-    } else {
+    if (!Scratch().Write("in.bin", std::string(reinterpret_cast<const char*>(data), size))) {
         return 0;
     }
 
@@ -106,5 +102,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         MessierCatalogue again;
         again.Load(output);
     }
+    Scratch().Empty();
     return 0;
 }

@@ -4,12 +4,11 @@
 // fault, read past a buffer or ask for more memory than the file could fill.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <memory>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
+#include "FuzzScratch.h"
 #include "catalogues/AstroList.h"
 #include "catalogues/CatalogueSet.h"
 #include "catalogues/Request.h"
@@ -22,11 +21,12 @@
 
 namespace {
 
-std::string ScratchPath(const char* what)
+// The input and the catalogue's dump, in one folder emptied after each input and removed at
+// the end.
+FuzzScratch& Scratch()
 {
-    const char* dir = std::getenv("TMPDIR");
-    return std::string(dir && *dir ? dir : "/tmp") + "/orbiscope-fuzz-" + what + "-" +
-           std::to_string(::getpid()) + ".bin";
+    static FuzzScratch scratch("stars");
+    return scratch;
 }
 
 // The views every input is looked at through, made once.
@@ -55,12 +55,8 @@ const std::vector<Transformation>& Views()
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const std::string input = ScratchPath("in");
-    static const std::string output = ScratchPath("out");
-    if (std::FILE* file = std::fopen(input.c_str(), "wb")) {
-        std::fwrite(data, 1, size, file);
-        std::fclose(file);
-    } else {
+    const std::string input = Scratch().Path("in.bin");
+    if (!Scratch().Write("in.bin", std::string(reinterpret_cast<const char*>(data), size))) {
         return 0;
     }
 
@@ -93,6 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         star->ReleaseReference();
     }
     (void)catalogue.GetListOfNamedObjects();
-    catalogue.Dump(output);
+    catalogue.Dump(Scratch().Path("out.bin"));
+    Scratch().Empty();
     return 0;
 }

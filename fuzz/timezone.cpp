@@ -4,12 +4,10 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
-#include <unistd.h>
-
+#include "FuzzScratch.h"
 #include "time/AstroTime.h"
 #include "time/TimeZone.h"
 #include "time/TimeZoneRule.h"
@@ -49,26 +47,11 @@ void CheckConversions(const TimeZone& zone)
     }
 }
 
-// A scratch file for the index text, removed when the fuzzer ends.
-char gIndexPath[] = "/tmp/fuzz-timezone-index-XXXXXX";
-
-void RemoveIndex()
+// The index text's file, in a folder removed when the fuzzer ends.
+FuzzScratch& Scratch()
 {
-    unlink(gIndexPath);
-}
-
-const char* IndexPath()
-{
-    static const bool made = [] {
-        int fd = mkstemp(gIndexPath);
-        if (fd < 0) {
-            return false;
-        }
-        close(fd);
-        std::atexit(RemoveIndex);
-        return true;
-    }();
-    return made ? gIndexPath : nullptr;
+    static FuzzScratch scratch("timezone");
+    return scratch;
 }
 
 } // namespace
@@ -80,11 +63,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     (void)loaded;
 
     // The index file.
-    std::FILE* file = IndexPath() != nullptr ? std::fopen(IndexPath(), "wb") : nullptr;
-    if (file != nullptr) {
-        std::fwrite(input.data(), 1, input.size(), file);
-        std::fclose(file);
-        TimeZone::LoadTimeZoneIndex(IndexPath());
+    if (Scratch().Write("index.txt", input)) {
+        TimeZone::LoadTimeZoneIndex(Scratch().Path("index.txt"));
         for (unsigned number = 0; number < 40; ++number) {
             if (const TimeZone* zone = TimeZone::GetTimeZone(number)) {
                 Check(number != 0);

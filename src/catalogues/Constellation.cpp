@@ -40,14 +40,25 @@ bool OnTheSphere(double ra, double dec)
     return std::fabs(ra) <= 360.0 && std::fabs(dec) <= 90.0;
 }
 
-// Both numbers of a point, on the sphere; `coord` is left alone otherwise.
+// A right ascension of the files, up to a turn either way, brought into 0 up to a turn, so
+// that ranges and draws see one value per direction: -60 becomes 300 and 360 becomes 0.
+double WithinOneTurn(double ra)
+{
+    const double wrapped = std::fmod(ra, 360.0);
+    const double positive = wrapped < 0.0 ? wrapped + 360.0 : wrapped + 0.0;
+    // A tiny negative value rounds up to a whole turn when a turn is added.
+    return positive < 360.0 ? positive : 0.0;
+}
+
+// Both numbers of a point, on the sphere, RA within one turn; `coord` is left alone
+// otherwise.
 bool ReadPoint(StringParser& parser, PolarCoord& coord)
 {
     PolarCoord read;
     if (!read.Set(parser) || !OnTheSphere(read.GetRA().GetDegrees(), read.GetDec().GetDegrees())) {
         return false;
     }
-    coord = read;
+    coord = PolarCoord(WithinOneTurn(read.GetRA().GetDegrees()), read.GetDec().GetDegrees());
     return true;
 }
 
@@ -62,8 +73,8 @@ FigureLine ParseFigureLine(const char* line)
     return parsed;
 }
 
-// One line of the boundary file: RA hours, Dec degrees, abbreviation. Without all three
-// fields the abbreviation is empty.
+// One line of the boundary file: RA hours (-24 to 24 taken, kept as 0 up to 24), Dec degrees,
+// abbreviation. Without all three fields the abbreviation is empty.
 struct BoundaryLine
 {
     LorvString Abbreviation;
@@ -89,7 +100,7 @@ BoundaryLine ParseBoundaryLine(const char* line)
     const double rightAscension = hours * kDegreesPerHour;
     parsed.bOnTheSphere = OnTheSphere(rightAscension, declination);
     if (parsed.bOnTheSphere) {
-        parsed.Point = PolarCoord(rightAscension, declination);
+        parsed.Point = PolarCoord(WithinOneTurn(rightAscension), declination);
     }
     return parsed;
 }

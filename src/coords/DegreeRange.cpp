@@ -1,5 +1,6 @@
 #include "coords/DegreeRange.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "host/HostFile.h"
@@ -40,10 +41,11 @@ void DegreeRange::Copy(const DegreeRange& other)
 
 DegreeAngle DegreeRange::GetDifference(const DegreeAngle& a, const DegreeAngle& b)
 {
-    double d = std::fabs(a.GetDegrees() - b.GetDegrees());
-    // Angles may each lie anywhere from -360 to 360, so the gap can pass a whole turn.
+    // Each angle loses its whole turns first (exactly), so that the gap of angles held far
+    // outside the normal range keeps the precision of one within it.
+    double d = std::fabs(std::fmod(a.GetDegrees(), 360.0) - std::fmod(b.GetDegrees(), 360.0));
     if (d > 360.0) {
-        d = std::fmod(d, 360.0);
+        d -= 360.0;
     }
     return DegreeAngle(d > 180.0 ? 360.0 - d : d);
 }
@@ -73,7 +75,8 @@ bool DegreeRange::Intersects(const DegreeRange& other) const
 
 void DegreeRange::Enclose(DegreeAngle& angle)
 {
-    if (Contains(angle)) {
+    // Infinity and NaN name no direction; a range that took one could hold nothing after.
+    if (!std::isfinite(angle.GetDegrees()) || Contains(angle)) {
         return;
     }
     if (bEmpty) {
@@ -83,35 +86,36 @@ void DegreeRange::Enclose(DegreeAngle& angle)
         return;
     }
 
-    // Work in a frame without a seam: the lower of centre and angle moves up by whole turns
-    // (one turn for angles in their normal range) until the two lie within half a turn.
-    // Assignment keeps those values as they are, since normalising would undo the move.
-    double center = Center.GetDegrees();
-    double target = angle.GetDegrees();
-    double end = 0.0;
-    double d = std::fabs(target - center);
-    if (d > 180.0) {
-        double turns = std::round(d / 360.0) * 360.0;
-        if (target >= center) {
-            center += turns;
-            end = center + HalfWidth.GetDegrees();
-        } else {
+    // Work in a frame without a seam: when centre and angle lie more than half a turn apart,
+    // the lower of the two moves up by the whole turns that bring them within half a turn.
+    // Both are first taken inside a turn either way (exactly), so that is one turn or two. The
+    // move may leave the lower one still the lower (a gap between one and one and a half
+    // turns), so the end to keep is chosen only afterwards, by the side of the centre the
+    // angle now lies on. Assignment keeps a moved angle as it is: normalising would undo it.
+    double center = std::fmod(Center.GetDegrees(), 360.0);
+    double target = std::fmod(angle.GetDegrees(), 360.0);
+    const double gap = std::fabs(target - center);
+    if (gap > 180.0) {
+        const double turns = std::round(gap / 360.0) * 360.0;
+        if (target < center) {
             target += turns;
             angle = target;
-            end = center - HalfWidth.GetDegrees();
+        } else {
+            center += turns;
         }
-    } else if (target > center) {
-        end = center - HalfWidth.GetDegrees();
-    } else {
-        end = center + HalfWidth.GetDegrees();
     }
+    const double end =
+        target > center ? center - HalfWidth.GetDegrees() : center + HalfWidth.GetDegrees();
 
     Center = DegreeAngle((end + target) / 2.0);
-    // The halving may round the centre towards either end: the wider of the two gaps holds
-    // both ends, so every angle enclosed before stays contained.
-    const DegreeAngle toAngle = GetDifference(Center, angle);
-    const DegreeAngle toEnd = GetDifference(Center, DegreeAngle(end));
-    HalfWidth = toEnd > toAngle ? toEnd : toAngle;
+    // The halving may round the centre towards either end, so the wider of the two gaps is
+    // taken. The kept end is worked out afresh from centre and half width, often a turn up,
+    // with a coarser last place than the angles enclosed at that end: they may lie a unit of
+    // it beyond the end, and a few such units of slack keep every one of them contained.
+    constexpr double kEndRounding = 2.5e-13;
+    const double toAngle = GetDifference(Center, angle).GetDegrees();
+    const double toEnd = GetDifference(Center, DegreeAngle(end)).GetDegrees();
+    HalfWidth = std::max(toAngle, toEnd + kEndRounding);
 }
 
 bool DegreeRange::Dump(HostFile& file) const

@@ -43,10 +43,12 @@ public:
     // True when either range is full, false when either is empty, otherwise when the centres
     // lie no further apart than the two half widths together.
     bool Intersects(const DegreeRange& other) const;
-    // Widens the range just enough to hold the angle: the end away from the angle stays and
-    // the angle becomes the other end. Where that end lies across the seam from the centre,
-    // the angle is worked in whole turns above it, and the caller's angle keeps that value
-    // (Enclose(10) on a range centred at 350 leaves the caller holding 370).
+    // Widens the range just enough to hold the angle (but for a few units in the last place,
+    // so that every angle enclosed before stays contained): the end away from the angle stays
+    // and the angle becomes the other end, reached the shorter way round. Where the angle lies
+    // across the seam below the centre, it is worked in whole turns above, and the caller's
+    // angle keeps that value (Enclose(10) on a range centred at 350 leaves the caller holding
+    // 370). Infinity and NaN are passed over.
     void Enclose(DegreeAngle& angle);
 
     // Two doubles: (0, 360) for a full range, (0, 0) for an empty one, else centre and half

@@ -157,3 +157,38 @@ TEST_F(ConstellationFilesTest, RequestListsInTableOrderTheConstellationsWhoseFig
             << centre.GetDescription() << " within " << radius;
     }
 }
+
+TEST_F(ConstellationFilesTest, ReadersKeepRightAscensionWithinOneTurnAndRangesHoldEveryPoint)
+{
+    struct Case
+    {
+        bool bBoundary;
+        std::string text;
+        std::vector<double> ras;
+    };
+    const Case cases[] = {
+        {true, "23 3 And\n. 2 And\n-4 1 And\n", {345, 0, 300}},
+        {true, "-24 10 And\n24 10 And\n-0.5 10 And\n-23.5 10 And\n", {0, 0, 352.5, 7.5}},
+        {false, "And,345,0,0,0\nAnd,-60,0,-60,0\n", {345, 0, 300, 300}},
+        {false, "And,-360,0,360,1\nAnd,-0.25,0,359.75,1\n", {0, 0, 359.75, 359.75}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.text);
+        auto catalogue = Catalogue();
+        if (c.bBoundary) {
+            catalogue->LoadBoundaryInfo(*Dir.Open("bounds.txt", c.text));
+        } else {
+            catalogue->LoadFigureInfo(*Dir.Open("figures.txt", c.text));
+        }
+        const Constellation& andromeda = Get(*catalogue, "And");
+        const std::vector<PolarCoord>& points =
+            c.bBoundary ? andromeda.GetBoundaryPoints() : andromeda.GetFigurePoints();
+        const SkyRange& range =
+            c.bBoundary ? andromeda.GetBoundaryRange() : andromeda.GetFigureRange();
+        ASSERT_EQ(points.size(), c.ras.size());
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            EXPECT_EQ(points[i].GetRA().GetDegrees(), c.ras[i]) << i;
+            EXPECT_TRUE(range.Contains(points[i])) << i;
+        }
+    }
+}

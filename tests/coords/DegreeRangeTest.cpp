@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <vector>
+
 #include "ScratchFile.h"
 #include "coords/DegreeRange.h"
 #include "host/HostFile.h"
@@ -96,4 +101,76 @@ TEST(DegreeRange, DumpAndLoadKeepFullEmptyAndOrdinaryRanges)
     EXPECT_TRUE(point.IsEmpty()) << "a range of one point comes back empty";
     EXPECT_FALSE(full.Load(file)) << "past the end";
     EXPECT_TRUE(full.IsFull());
+}
+
+TEST(DegreeRange, EncloseKeepsEveryPointWhereTheTurnLeavesTheAngleOnItsSide)
+{
+    // Centre and angle between one and one and a half turns apart: the turn that brings them
+    // together leaves the angle on the side it was, and the end on the other side must stay.
+    struct Case
+    {
+        const char* name;
+        std::vector<double> angles;
+        double center, halfWidth;
+    };
+    const Case cases[] = {
+        {"boundary file: 23 h, 0 h, -4 h", {345, 0, -60}, 330, 30},
+        {"mirror: up across a turn", {-60, -50, 345}, 322.5, 22.5},
+        {"figure file: both ends of two lines", {345, 0, -60, -60}, 330, 30},
+        {"two turns apart in number", {-350, 350}, 0, 10},
+        {"half a turn apart", {0, 180}, 90, 90},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        DegreeRange range;
+        for (double value : c.angles) {
+            DegreeAngle angle(value);
+            range.Enclose(angle);
+        }
+        for (double value : c.angles) {
+            EXPECT_TRUE(Holds(range, value)) << value;
+        }
+        EXPECT_NEAR(
+            DegreeRange::GetDifference(range.GetCenter(), DegreeAngle(c.center)).GetDegrees(), 0.0,
+            1e-12);
+        EXPECT_NEAR(range.GetHalfWidth().GetDegrees(), c.halfWidth, 1e-12);
+    }
+}
+
+TEST(DegreeRange, EncloseHoldsEveryAngleItTookAndGrowsNoMoreThanNeeded)
+{
+    // Clusters of a random spread round a random direction, each angle written anywhere in
+    // -720..720 (assignment keeps it as it is). Each step holds everything taken so far and
+    // reaches the new angle from the nearer end of the old range, whose ends are worked out
+    // here as ends, not through the centre.
+    std::mt19937 random(18);
+    std::uniform_real_distribution<double> unit(0.0, 1.0);
+    auto upward = [](double from, double to) {
+        return std::fmod(std::fmod(to - from, 360.0) + 720.0, 360.0);
+    };
+    for (int trial = 0; trial < 10000; ++trial) {
+        const double base = 360.0 * unit(random), spread = 200.0 * unit(random) * unit(random);
+        DegreeRange range;
+        std::vector<DegreeAngle> taken;
+        for (int step = 0; step < 8; ++step) {
+            const double turns = std::floor(unit(random) * 4.0 - 2.0);
+            DegreeAngle angle;
+            angle = std::clamp(base + spread * (unit(random) - 0.5) + 360.0 * turns, -720.0, 720.0);
+            taken.push_back(angle);
+            const DegreeRange before = range;
+            range.Enclose(angle);
+            SCOPED_TRACE(testing::Message() << "trial " << trial << " step " << step);
+            for (const DegreeAngle& held : taken) {
+                ASSERT_TRUE(range.Contains(held)) << held.GetDegrees();
+            }
+            if (!before.IsEmpty() && !before.Contains(taken.back())) {
+                const double center = before.GetCenter().GetDegrees();
+                const double half = before.GetHalfWidth().GetDegrees();
+                const double value = taken.back().GetDegrees();
+                const double reach =
+                    std::min(upward(center + half, value), upward(value, center - half));
+                ASSERT_LE(range.GetHalfWidth().GetDegrees(), half + reach / 2.0 + 1e-9);
+            }
+        }
+    }
 }
