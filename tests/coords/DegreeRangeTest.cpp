@@ -76,8 +76,8 @@ TEST(DegreeRange, EncloseKeepsTheFarEndAndMovesTheNearOneToTheAngle)
     grown.Enclose(first);
     EXPECT_TRUE(Holds(grown, 42.0) && !Holds(grown, 42.1));
     grown.Enclose(second);
-    EXPECT_EQ(grown.GetCenter().GetDegrees(), 41.0);
-    EXPECT_EQ(grown.GetHalfWidth().GetDegrees(), 1.0);
+    EXPECT_NEAR(grown.GetCenter().GetDegrees(), 41.0, 1e-12);
+    EXPECT_NEAR(grown.GetHalfWidth().GetDegrees(), 1.0, 1e-12);
     full.Enclose(first);
     EXPECT_TRUE(full.IsFull());
 }
