@@ -105,8 +105,7 @@ int main(int argc, char** argv)
     if (argc == 4) {
         HostFile header(binaryName, HostFile::ReadWrite);
         if (!header.IsOpen() || !header.WriteDouble(depth)) {
-            std::fprintf(stderr, "star_binary: cannot state the depth in %s\n",
-                         binaryName.c_str());
+            std::fprintf(stderr, "star_binary: cannot state the depth in %s\n", binaryName.c_str());
             return 1;
         }
     }
@@ -127,8 +126,9 @@ int main(int argc, char** argv)
     }
 
     Totals totals = Count(written);
-    std::printf("%s: %ld stars (%ld named) in %zu segments, faintest %.2f, header %.2f, %ld bytes\n",
-                binaryName.c_str(), totals.Stars, totals.Named, written.size(),
-                source.GetMaxMagnitude(), maxMagnitude, file.Length());
+    std::printf(
+        "%s: %ld stars (%ld named) in %zu segments, faintest %.2f, header %.2f, %ld bytes\n",
+        binaryName.c_str(), totals.Stars, totals.Named, written.size(), source.GetMaxMagnitude(),
+        maxMagnitude, file.Length());
     return 0;
 }
