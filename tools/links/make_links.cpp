@@ -191,7 +191,7 @@ int main(int argc, char** argv)
     out << "# Article addresses of the planetarium's objects, by uid. Made by "
            "tools/links/make_links\n"
            "# from KStars' info_url.dat (Debian package kstars-data), the constellation list and\n"
-           "# the named bright stars; do not edit by hand, run tools/links/make_links_file\n"
+           "# the named stars; do not edit by hand, run tools/links/make_links_file\n"
            "# One link a line: uid | object | title | address. A uid's first line is the link\n"
            "# the planetarium opens for it.\n";
     std::map<long, int> objects;

@@ -3,8 +3,13 @@
 // positions as the text gives them (J2000 for the shipped files). The file is then read back
 // segment by segment and compared with the text, star for star.
 //
-//   star_binary TEXT BINARY
+//   star_binary TEXT BINARY [DEPTH]
+//
+// The header's magnitude, which the collector compares with the limiting magnitude to choose a
+// file, is the faintest star's unless DEPTH is given: the magnitude to which the file is
+// complete, for a file that also holds a thinning tail of fainter stars.
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "catalogues/AstroItemCollector.h"
@@ -67,12 +72,18 @@ bool SameStars(const SegmentTable& a, const SegmentTable& b)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: star_binary TEXT BINARY\n");
+    if (argc != 3 && argc != 4) {
+        std::fprintf(stderr, "usage: star_binary TEXT BINARY [DEPTH]\n");
         return 2;
     }
     const std::string textName = argv[1];
     const std::string binaryName = argv[2];
+    char* end = nullptr;
+    const double depth = argc == 4 ? std::strtod(argv[3], &end) : 0.0;
+    if (argc == 4 && (end == argv[3] || *end != '\0')) {
+        std::fprintf(stderr, "star_binary: DEPTH must be a magnitude, not %s\n", argv[3]);
+        return 2;
+    }
 
     TextFile text;
     if (!text.OpenForReading(textName.c_str())) {
@@ -89,6 +100,15 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "star_binary: cannot write %s\n", binaryName.c_str());
         return 1;
     }
+    const StarCatalogue& source = *collector.GetUserCatalogue();
+    const double statedDepth = argc == 4 ? depth : source.GetMaxMagnitude();
+    if (argc == 4) {
+        HostFile header(binaryName, HostFile::ReadWrite);
+        if (!header.IsOpen() || !header.WriteDouble(depth)) {
+            std::fprintf(stderr, "star_binary: cannot state the depth in %s\n", binaryName.c_str());
+            return 1;
+        }
+    }
 
     // Read the file back whole: its header, then every segment, through the index classes.
     HostFile file(binaryName, HostFile::ReadOnly);
@@ -99,16 +119,16 @@ int main(int argc, char** argv)
         return 1;
     }
     written.Update(file, SkyRange(true));
-    const StarCatalogue& source = *collector.GetUserCatalogue();
-    if (maxMagnitude != source.GetMaxMagnitude() || !SameStars(source.GetSegments(), written)) {
+    if (maxMagnitude != statedDepth || !SameStars(source.GetSegments(), written)) {
         std::fprintf(stderr, "star_binary: %s does not read back as the text\n",
                      binaryName.c_str());
         return 1;
     }
 
     Totals totals = Count(written);
-    std::printf("%s: %ld stars (%ld named) in %zu segments, faintest %.2f, %ld bytes\n",
-                binaryName.c_str(), totals.Stars, totals.Named, written.size(), maxMagnitude,
-                file.Length());
+    std::printf(
+        "%s: %ld stars (%ld named) in %zu segments, faintest %.2f, header %.2f, %ld bytes\n",
+        binaryName.c_str(), totals.Stars, totals.Named, written.size(), source.GetMaxMagnitude(),
+        maxMagnitude, file.Length());
     return 0;
 }
