@@ -44,4 +44,7 @@ public:
     // answers it here. Returns false when the backend has no answer and the loop should end
     // the window as cancelled.
     virtual bool ModalStarted(HWND window) = 0;
+    // The answer given at ModalStarted left the window open, and nothing more can come to
+    // close it: the loop ends it as cancelled. A scripted desktop counts it as a failure.
+    virtual void ModalLeftOpen(HWND /*window*/) {}
 };

@@ -280,6 +280,9 @@ int WindowSystem::RunModal(TWindow& window)
         if (!answered || !GetBackend().PumpEvents(wait)) {
             dbstream << "WindowSystem: no answer to the modal window \"" << window.GetWindowText()
                      << "\"; it is closed" << dbendl;
+            if (answered) {
+                GetBackend().ModalLeftOpen(handle);
+            }
             SendMessage(handle, WM_CLOSE, 0, 0);
             if (!done()) {
                 aModal[frame].bDone = true;
