@@ -833,6 +833,7 @@ void WindowSystem::Activate(TWindow& topLevel)
     RaiseTopLevel(topLevel);
     if (previous != topLevel.HWindow) {
         hActive = topLevel.HWindow;
+        GetBackend().ActivateNativeWindow(topLevel.HWindow);
         if (previous) {
             SendMessage(previous, WM_ACTIVATE, WA_INACTIVE, LPARAM(topLevel.HWindow));
         }

@@ -29,8 +29,10 @@
 #include "catalogues/AstroCatalogue.h"
 #include "platform/TLayoutWindow.h"
 
+class AstroItemCollector;
 class AstroStatusWindow;
 class HostBookmark;
+class HostFlyMenu;
 class MapWindow;
 class StateContainer;
 
@@ -72,6 +74,11 @@ public:
     static constexpr UINT kCmLocateSun = 25027;
     static constexpr UINT kCmLocateMoon = 25028;
     static constexpr UINT kCmDumpTimeZoneNames = 25032;
+    // Commands that open the fly-outs of the host's menu.
+    static constexpr UINT kCmDisplayFlyout = 25000;
+    static constexpr UINT kCmLocateFlyout = 25001;
+    static constexpr UINT kCmConstellationFlyout = 25009;
+    static constexpr UINT kCmDevelopmentFlyout = 25023;
     // The file, in the user's configuration directory, that the zone names are written to.
     static constexpr const char* kTimeZoneDumpFile = "TimeZoneDump.txt";
     // The word of the planetarium's bookmarks and icon in the host.
@@ -92,11 +99,30 @@ public:
     void HandleNameRef(const std::string& value);
     // Shows the object of the uid.
     void HandleUidRef(const std::string& value);
+    // The catalogue of a word of a "stringref" (Constellation, Star, Planet, Messier, in any
+    // case); null for another word.
+    static AstroCatalogue* CatalogueOfWord(AstroItemCollector& collector, const std::string& word);
 
-    // The default state. Restore is false when the settings store has none.
+    // The default state. Restore is false when the settings store has none. Make asks for
+    // the place (the first start) and keeps it; a cancelled dialog keeps nothing, so that
+    // the next start asks again.
     bool RestoreDefaultState();
     void SaveAsDefaultState();
     void MakeDefaultState();
+    // The whole window's state at a key of the settings store (a path below
+    // HKEY_LOCAL_MACHINE), under "AstroNOXWindow".
+    void SaveInRegistryState(const std::string& key);
+    void RestoreFromRegistryState(const std::string& key);
+
+    // The host's fly-out menu (see AstroMenuTemplates): the main menu, with the full-screen
+    // entry turned into its opposite in full-screen mode and the time zone dump only in the
+    // developer's mode ("DevMode" in section "Orbiscope"); and the fly-outs of its entries,
+    // each with the check marks of the moment. Nothing happens when the host has no menu.
+    void LoadFlyoutMenu();
+    void CmDisplayFlyout();
+    void CmLocateFlyout();
+    void CmConstellationFlyout();
+    void CmDevelopmentFlyout();
 
     // Shows or hides the Messier objects and keeps the choice as the default.
     void SetMessierObjectsDisplay(bool show);
@@ -171,6 +197,11 @@ public:
     LRESULT WmuCreateBookmark(WPARAM, LPARAM);
     // The LPARAM is a std::string* with an article reference, which goes to the host's frame.
     LRESULT WmuObjectSelected(WPARAM, LPARAM reference);
+    // The host asks for the fly-out menu: the title bar gets the icon and the title, and the
+    // menu is loaded. Returns 1.
+    LRESULT WmuLoadFlyMenu(WPARAM, LPARAM);
+    // An entry of the fly-out was chosen: the menu is loaded again. Returns 0.
+    LRESULT WmuFlyMenuNotify(WPARAM, LPARAM);
     // Prints a star chart of the map's view: the platform's print dialog, then, unless the user
     // cancelled there, the dialog with the chart's preview. The wait cursor shows meanwhile.
     void CmPrint();
@@ -194,6 +225,12 @@ private:
 
     // The parent of the dialogs: this window once it is shown, its parent before.
     TWindow* DialogParent();
+    // What the parent, the host, answers to a message; 0 without a parent.
+    LRESULT AskHost(UINT message);
+    bool IsHostFullScreen();
+    // A sub-menu of the host's fly-out at `level`, filled from a menu resource; null when the
+    // host has no fly-out menu.
+    HostFlyMenu* LoadFlyout(int level, int menu, bool replaceStrings);
 };
 
 StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window);
