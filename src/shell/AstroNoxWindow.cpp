@@ -385,16 +385,23 @@ StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
 
 // The default state.
 
+bool AstroNoxWindow::HasDefaultState(const std::string& root, const std::string& key)
+{
+    RegistryStateContainer state(root);
+    std::vector<std::string> names;
+    state.ListKeyNames(names);
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return EqualNoCase(name, key); });
+}
+
+bool AstroNoxWindow::HasDefaultState()
+{
+    return HasDefaultState(MakeStateRoot(), "Default");
+}
+
 bool AstroNoxWindow::RestoreDefaultState()
 {
-    RegistryStateContainer root(StateRoot);
-    std::vector<std::string> names;
-    root.ListKeyNames(names);
-    bool found = false;
-    for (const std::string& name : names) {
-        found = found || EqualNoCase(name, DefaultKey);
-    }
-    if (!found) {
+    if (!HasDefaultState(StateRoot, DefaultKey)) {
         return false;
     }
     RegistryStateContainer state(StateRoot + "\\" + DefaultKey);

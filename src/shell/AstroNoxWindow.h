@@ -107,6 +107,9 @@ public:
     // the place (the first start) and keeps it; a cancelled dialog keeps nothing, so that
     // the next start asks again.
     bool RestoreDefaultState();
+    // Whether the settings store holds a default state yet: without one the next start asks
+    // for the place.
+    static bool HasDefaultState();
     void SaveAsDefaultState();
     void MakeDefaultState();
     // The whole window's state at a key of the settings store (a path below
@@ -227,6 +230,7 @@ private:
     TWindow* DialogParent();
     // What the parent, the host, answers to a message; 0 without a parent.
     LRESULT AskHost(UINT message);
+    static bool HasDefaultState(const std::string& root, const std::string& key);
     bool IsHostFullScreen();
     // A sub-menu of the host's fly-out at `level`, filled from a menu resource; null when the
     // host has no fly-out menu.

@@ -31,9 +31,15 @@ protected:
     }
 
     // The component entered into the frame with `command` as the host does, unpainted: the
-    // host's loop has not turned yet.
+    // host's loop has not turned yet. At a first start the location dialog it opens is
+    // cancelled, so that the map keeps its own start and nothing is saved.
     AstroNoxWindow& Enter(const char* command)
     {
+        if (!AstroNoxWindow::HasDefaultState()) {
+            Desk().AnswerNextModal([](TWindow& dialog) {
+                HeadlessBackend::PressButton(dialog, IDCANCEL);
+            });
+        }
         const std::uint32_t handle = orbiscope(FrameWindow.HWindow, command);
         auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(HWND(std::uintptr_t(handle))));
         EXPECT_NE(window, nullptr) << command;
