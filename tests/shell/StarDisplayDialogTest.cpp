@@ -32,54 +32,27 @@ protected:
         StarDisplayDialog dialog(nullptr, given);
         return RunDialog(dialog, act) == IDOK ? dialog.GetStarDisplayParameters() : given;
     }
-    // The pixels of a sample star window, row by row.
-    static std::vector<std::uint32_t> Pixels(TWindow& sample)
+    static std::vector<std::uint32_t> Values(const Surface& surface)
     {
-        Pump();
-        const auto picture = WindowSystem::Get().CaptureWindow(sample.HWindow);
-        std::vector<std::uint32_t> pixels;
-        for (int y = 0; y < picture->Height(); ++y) {
-            for (int x = 0; x < picture->Width(); ++x) {
-                pixels.push_back(picture->ValueAt(x, y));
-            }
-        }
-        return pixels;
-    }
-    // Those of its pixels that are not its background, the colour of its corner.
-    static long StarPixels(TWindow& sample)
-    {
-        const std::vector<std::uint32_t> pixels = Pixels(sample);
-        return std::count_if(pixels.begin(), pixels.end(),
-                             [&](std::uint32_t p) { return p != pixels.front(); });
-    }
-    static long CountValue(const Surface& surface, unsigned value)
-    {
-        long n = 0;
+        std::vector<std::uint32_t> values;
         for (int y = 0; y < surface.Height(); ++y) {
             for (int x = 0; x < surface.Width(); ++x) {
-                n += surface.ValueAt(x, y) == value;
+                values.push_back(surface.ValueAt(x, y));
             }
         }
-        return n;
+        return values;
     }
-    // The sample windows of a dialog, in their order.
-    static std::vector<TWindow*> Samples(TWindow& dialog)
+    // The pixels of the sample windows of a dialog, in their order, once painted.
+    static std::vector<std::vector<std::uint32_t>> Samples(TWindow& dialog)
     {
-        std::vector<TWindow*> samples;
+        Pump();
+        std::vector<std::vector<std::uint32_t>> samples;
         for (TWindow* child : dialog.GetChildren()) {
             if (dynamic_cast<SingleStarWindow*>(child)) {
-                samples.push_back(child);
+                samples.push_back(Values(*WindowSystem::Get().CaptureWindow(child->HWindow)));
             }
         }
         return samples;
-    }
-    // A click on the upper or lower arrow of a slider.
-    static void ClickArrow(TWindow& dialog, int slider, bool up, int times)
-    {
-        TWindow& bar = *dialog.ChildWithId(slider);
-        for (int i = 0; i < times; ++i) {
-            Desk().Click(bar, TPoint(bar.Attr.W / 2, up ? 1 : bar.Attr.H - 2));
-        }
     }
 };
 
@@ -123,33 +96,31 @@ TEST_F(StarDialogs, ALimitIsKeptWithinFiftyAndAMagnitudeThatIsNoNumberIsRefused)
 TEST_F(StarDialogs, TheSamplesFollowTheLimitAndTheDefaultsKeepThePrintedChartsPaper)
 {
     const std::pair<const char*, const char*> samples[] = {
-        {"-3", "-1.0 -1.0 -1.0 -1.0"}, {"2", "2.0 1.0 0.0 -1.0"}, {"6", "6.0 3.7 1.3 -1.0"}};
+        {"-3", "-1.0 -1.0 -1.0 -1.0"}, {"6", "6.0 3.7 1.3 -1.0"}, {"2", "2.0 1.0 0.0 -1.0"}};
     for (bool printing : {false, true}) {
         Stars given;
         given.SetPrinting(printing);
         given.SetShape(Stars::kRoundShape);
-        given.SetLimitingMagnitude(3.0);
         const Stars result = Run(given, [&](TWindow& dialog) {
             for (const auto& [limit, texts] : samples) {
                 Type(dialog, StarDisplayDialog::kLimit, limit);
                 Desk().PressKey(VK_TAB);
-
                 std::string shown;
-                for (int i = 0; i < 4; ++i) {
-                    shown.append(Text(dialog, StarDisplayDialog::kFirstSampleMagnitude + i));
-                    shown.append(i < 3 ? " " : "");
+                for (int id = StarDisplayDialog::kFirstSampleMagnitude; id < 0x7b; ++id) {
+                    shown.append(Text(dialog, id)).append(id < 0x7a ? " " : "");
                 }
                 EXPECT_EQ(shown, texts);
             }
-            const std::vector<TWindow*> windows = Samples(dialog);
-            EXPECT_GT(StarPixels(*windows[3]), StarPixels(*windows[0]));
-            EXPECT_EQ(Pixels(*windows[0]).front(),
-                      Surface::RgbToValue(printing ? RGB(255, 255, 255) : 0));
+            const auto pixels = Samples(dialog);
+            const auto sky = [&pixels](int i) {
+                return std::count(pixels[i].begin(), pixels[i].end(), pixels[i].front());
+            };
+            EXPECT_LT(sky(3), sky(0)) << "the brightest star is the largest";
+            EXPECT_EQ(pixels[0].front(), Surface::RgbToValue(printing ? RGB(255, 255, 255) : 0));
             Press(dialog, StarDisplayDialog::kDefaults);
             EXPECT_EQ(Text(dialog, StarDisplayDialog::kLimit), "6");
             Press(dialog, IDOK);
         });
-        EXPECT_EQ(result.LimitingMagnitude, 6.0);
         EXPECT_EQ(result.Shape, Stars::kRayShape);
         EXPECT_EQ(result.IsPrinting(), printing);
     }
@@ -159,30 +130,35 @@ TEST_F(StarDialogs, TheSamplesFollowTheLimitAndTheDefaultsKeepThePrintedChartsPa
 // of an inch, grey levels from 0 to 255; the sample of its row follows.
 TEST_F(StarDialogs, TheSlidersStopAtTheirEndsAndTheSampleOfTheirRowFollows)
 {
-    const std::tuple<int, int, bool, std::function<double(const Stars&)>, double> cases[] = {
-        {StarDisplayDialog::kModifySizes, Range::kDimmerSlider, false,
-         [](const Stars& s) { return s.SizeRange.Lower; }, 0.25},
-        {StarDisplayDialog::kModifySizes, Range::kBrighterSlider, true,
-         [](const Stars& s) { return s.SizeRange.Upper; }, 0.0},
-        {StarDisplayDialog::kModifyIntensity, Range::kDimmerSlider, false,
-         [](const Stars& s) { return s.IntensityRange.Lower; }, 255.0},
-        {StarDisplayDialog::kModifyIntensity, Range::kBrighterSlider, true,
-         [](const Stars& s) { return s.IntensityRange.Upper; }, 0.0},
+    // The dialog, the slider and its arrow, and the range taken (lower, upper).
+    const std::tuple<int, int, bool, const char*> cases[] = {
+        {StarDisplayDialog::kModifySizes, Range::kDimmerSlider, false, "0.25 0.1"},
+        {StarDisplayDialog::kModifySizes, Range::kBrighterSlider, true, "0.01 0"},
+        {StarDisplayDialog::kModifyIntensity, Range::kDimmerSlider, false, "255 255"},
+        {StarDisplayDialog::kModifyIntensity, Range::kBrighterSlider, true, "70 0"},
     };
-    for (const auto& [button, slider, up, value, end] : cases) {
-        const Stars result =
-            Run(Stars(), [&, button = button, slider = slider, up = up](TWindow& outer) {
-                Desk().AnswerNextModal([&](TWindow& dialog) {
-                    TWindow& sample = *Samples(dialog)[slider == Range::kDimmerSlider ? 0 : 1];
-                    const std::vector<std::uint32_t> before = Pixels(sample);
-                    ClickArrow(dialog, slider, up, 300);
-                    EXPECT_NE(Pixels(sample), before) << slider;
-                    Press(dialog, IDOK);
-                });
-                Press(outer, button);
-                Press(outer, IDOK);
+    for (const auto& [button, slider, up, taken] : cases) {
+        const Stars result = Run(Stars(), [&, button = button](TWindow& outer) {
+            Desk().AnswerNextModal([&](TWindow& dialog) {
+                const std::size_t row = slider == Range::kDimmerSlider ? 0 : 1;
+                const auto before = Samples(dialog)[row];
+                TWindow& bar = *dialog.ChildWithId(slider);
+                for (int i = 0; i < 300; ++i) {
+                    Desk().Click(bar, TPoint(bar.Attr.W / 2, up ? 1 : bar.Attr.H - 2));
+                }
+                EXPECT_NE(Samples(dialog)[row], before) << slider;
+                Press(dialog, IDOK);
             });
-        EXPECT_EQ(value(result), end) << button << " " << slider;
+            Press(outer, button);
+            Press(outer, IDOK);
+        });
+        std::ostringstream range;
+        if (button == StarDisplayDialog::kModifySizes) {
+            range << result.SizeRange.Lower << " " << result.SizeRange.Upper;
+        } else {
+            range << result.IntensityRange.Lower << " " << result.IntensityRange.Upper;
+        }
+        EXPECT_EQ(range.str(), taken) << slider;
     }
 }
 
@@ -210,15 +186,17 @@ TEST_F(StarDialogs, ARangeDialogRefusesCrossedMagnitudesAndCancelKeepsTheSetting
 }
 
 // From the host's menu: a cancelled dialog changes nothing; a limit of 4 draws fewer stars,
-// all of them brighter than 4; round stars cover more of the sky's pixels; both are kept.
-TEST_F(StarDialogs, TheMapDrawsTheStarsOfTheDialogAndKeepsThemForTheNextStart)
+// all of them brighter than 4; round stars cover more of the sky's pixels; both are kept for
+// the next start. The print dialog's star button changes the chart's stars alone.
+TEST_F(StarDialogs, TheMapAndThePrintedChartTakeTheStarsOfTheDialog)
 {
     AstroNoxWindow* window = &Start();
     MapWindow* map = window->GetMap();
     map->SetOrientation(RotatingOrientationInfo(
         map->GetCollector().GetOrigin(), LatLong(48.85, 357.65), PolarCoord(180, 45), 40.0, true));
     map->SetLocationName("Paris");
-    const auto drawn = [&map](double& faintest) {
+    double faintest = 0.0;
+    const auto drawn = [&] {
         Pump();
         int stars = 0;
         faintest = -99.0;
@@ -231,47 +209,37 @@ TEST_F(StarDialogs, TheMapDrawsTheStarsOfTheDialogAndKeepsThemForTheNextStart)
         }
         return stars;
     };
-    const auto sky = [&map] {
-        return CountValue(map->GetMemoryDC()->GetSurface(),
+    const auto sky = [&] {
+        const auto pixels = Values(map->GetMemoryDC()->GetSurface());
+        return std::count(pixels.begin(), pixels.end(),
                           map->GetDisplayParameters().nBackgroundIndex);
     };
-    const auto command = [&](const std::function<void(TWindow&)>& act) {
+    const auto command = [&](UINT id, const std::function<void(TWindow&)>& act) {
         Desk().AnswerNextModal(act);
-        window->SendMessage(WM_COMMAND, AstroNoxWindow::kCmDisplayStars, 0);
+        window->SendMessage(WM_COMMAND, id, 0);
     };
-    double faintest = 0.0;
-    const int all = drawn(faintest);
+    const int all = drawn();
     for (int button : {IDCANCEL, IDOK}) {
-        command([button](TWindow& dialog) {
+        command(AstroNoxWindow::kCmDisplayStars, [button](TWindow& dialog) {
             Type(dialog, StarDisplayDialog::kLimit, "4");
             Press(dialog, button);
         });
-        EXPECT_EQ(drawn(faintest) < all, button == IDOK);
+        EXPECT_EQ(drawn() < all, button == IDOK);
     }
     EXPECT_LE(faintest, 4.0);
-    const int raySky = sky();
-    command([](TWindow& dialog) {
+    const auto raySky = sky();
+    command(AstroNoxWindow::kCmDisplayStars, [](TWindow& dialog) {
         auto& shapes = dynamic_cast<TListBox&>(*dialog.ChildWithId(StarDisplayDialog::kShape));
         Desk().Click(shapes, TPoint(5, shapes.GetItemHeight() * 3 / 2));
         Press(dialog, IDOK);
     });
-    drawn(faintest);
+    drawn();
     EXPECT_LT(sky(), raySky);
 
-    window->Destroy();
-    map = Start().GetMap();
-    EXPECT_EQ(map->GetDisplayParameters().GetLimitingMagnitude(), 4.0);
-    EXPECT_EQ(map->GetDisplayParameters().GetShape(), Stars::kRoundShape);
-}
-
-// The print dialog's star button changes the chart's stars and leaves the map's alone.
-TEST_F(StarDialogs, ThePrintDialogsStarButtonChangesTheChartAlone)
-{
-    AstroNoxWindow& window = Start();
     const TPrinter saved = TPrinter::Default();
     ASSERT_TRUE(TPrinter::Default().SetResolution(72));
     Desk().AnswerNextModal([](TWindow& printer) { Press(printer, IDOK); });
-    Desk().AnswerNextModal([&](TWindow& print) {
+    command(AstroNoxWindow::kPrintCommand, [](TWindow& print) {
         Desk().AnswerNextModal([](TWindow& dialog) {
             Type(dialog, StarDisplayDialog::kLimit, "3");
             Press(dialog, IDOK);
@@ -282,9 +250,12 @@ TEST_F(StarDialogs, ThePrintDialogsStarButtonChangesTheChartAlone)
         EXPECT_TRUE(chart.IsPrinting());
         Press(print, AstroPrintDialog::kCloseId);
     });
-    window.SendMessage(WM_COMMAND, AstroNoxWindow::kPrintCommand, 0);
     TPrinter::Default() = saved;
-    EXPECT_EQ(window.GetMap()->GetDisplayParameters().GetLimitingMagnitude(), 6.0);
+
+    window->Destroy();
+    map = Start().GetMap();
+    EXPECT_EQ(map->GetDisplayParameters().GetLimitingMagnitude(), 4.0);
+    EXPECT_EQ(map->GetDisplayParameters().GetShape(), Stars::kRoundShape);
 }
 
 } // namespace
