@@ -241,7 +241,7 @@ static DialogTemplate StarRange(const char* title, int width, int height, const 
     for (const auto& row : rows) {
         t.Items.push_back(Item::Label(row.Label, -1, 7, y, 100, 8));
         t.Items.push_back(Item::Edit(row.Magnitude, 7, y + 10, 40, 14));
-        t.Items.push_back(Item::Label(sameText, -1, 7, y + 30, 100, 8));
+        t.Items.push_back(Item::Label(sameText, -1, 7, y + 30, 100, 18));
         t.Items.push_back(SamplePlace(row.Sample, width - 105, y + 12));
         t.Items.push_back(Item::Label(sliderText, -1, width - 67, y, 60, 8, SS_CENTER));
         t.Items.push_back(Item::ScrollBar(row.Slider, width - 43, y + 10, 11, rowHeight - 22));
