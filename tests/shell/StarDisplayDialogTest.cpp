@@ -72,19 +72,20 @@ TEST_F(StarDialogs, ALimitIsKeptWithinFiftyAndAMagnitudeThatIsNoNumberIsRefused)
     };
     for (const auto& [limit, label, taken, refused] : cases) {
         Messages.clear();
-        const Stars result = Run(Stars(), [&, limit = limit, label = label](TWindow& dialog) {
-            Press(dialog, StarDisplayDialog::kShowLabels);
-            Type(dialog, StarDisplayDialog::kLimit, limit);
-            Type(dialog, StarDisplayDialog::kLabelLimit, label);
-            if (refused) {
-                AnswerMessage(IDOK);
-            }
-            Press(dialog, IDOK);
-            if (refused) {
-                EXPECT_EQ(GetFocus(), dialog.ChildWithId(refused)->HWindow) << limit;
-                Press(dialog, IDCANCEL);
-            }
-        });
+        const Stars result =
+            Run(Stars(), [&, limit = limit, label = label, refused = refused](TWindow& dialog) {
+                Press(dialog, StarDisplayDialog::kShowLabels);
+                Type(dialog, StarDisplayDialog::kLimit, limit);
+                Type(dialog, StarDisplayDialog::kLabelLimit, label);
+                if (refused) {
+                    AnswerMessage(IDOK);
+                }
+                Press(dialog, IDOK);
+                if (refused) {
+                    EXPECT_EQ(GetFocus(), dialog.ChildWithId(refused)->HWindow) << limit;
+                    Press(dialog, IDCANCEL);
+                }
+            });
         EXPECT_EQ(result.LimitingMagnitude, taken) << limit;
         EXPECT_EQ(result.LabelType, refused ? 0u : 1u) << limit;
         EXPECT_EQ(Messages, std::vector<std::string>(refused ? 1 : 0, kNotANumber)) << limit;
@@ -138,20 +139,21 @@ TEST_F(StarDialogs, TheSlidersStopAtTheirEndsAndTheSampleOfTheirRowFollows)
         {StarDisplayDialog::kModifyIntensity, Range::kBrighterSlider, true, "70 0"},
     };
     for (const auto& [button, slider, up, taken] : cases) {
-        const Stars result = Run(Stars(), [&, button = button](TWindow& outer) {
-            Desk().AnswerNextModal([&](TWindow& dialog) {
-                const std::size_t row = slider == Range::kDimmerSlider ? 0 : 1;
-                const auto before = Samples(dialog)[row];
-                TWindow& bar = *dialog.ChildWithId(slider);
-                for (int i = 0; i < 300; ++i) {
-                    Desk().Click(bar, TPoint(bar.Attr.W / 2, up ? 1 : bar.Attr.H - 2));
-                }
-                EXPECT_NE(Samples(dialog)[row], before) << slider;
-                Press(dialog, IDOK);
+        const Stars result =
+            Run(Stars(), [&, button = button, slider = slider, up = up](TWindow& outer) {
+                Desk().AnswerNextModal([&](TWindow& dialog) {
+                    const std::size_t row = slider == Range::kDimmerSlider ? 0 : 1;
+                    const auto before = Samples(dialog)[row];
+                    TWindow& bar = *dialog.ChildWithId(slider);
+                    for (int i = 0; i < 300; ++i) {
+                        Desk().Click(bar, TPoint(bar.Attr.W / 2, up ? 1 : bar.Attr.H - 2));
+                    }
+                    EXPECT_NE(Samples(dialog)[row], before) << slider;
+                    Press(dialog, IDOK);
+                });
+                Press(outer, button);
+                Press(outer, IDOK);
             });
-            Press(outer, button);
-            Press(outer, IDOK);
-        });
         std::ostringstream range;
         if (button == StarDisplayDialog::kModifySizes) {
             range << result.SizeRange.Lower << " " << result.SizeRange.Upper;
