@@ -18,7 +18,6 @@ public:
     // Takes the star settings, worked out for this window's surface.
     void SetParameters(const StarDisplayParameters& parameters);
     void SetMagnitude(double magnitude) { Magnitude = magnitude; }
-    double GetMagnitude() const { return Magnitude; }
 
     // Fills the whole client area, so nothing needs erasing first.
     bool EvEraseBkgnd(HDC dc);

@@ -1,5 +1,6 @@
 #include "shell/StarDisplayDialog.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 

@@ -37,8 +37,6 @@ public:
 
     // The result, after OK.
     const StarDisplayParameters& GetStarDisplayParameters() const { return Parameters; }
-    // The magnitude a sample shows.
-    double GetSampleMagnitude(int sample) const { return aSamples[sample].GetMagnitude(); }
 
     std::string GetHelpKey() const override;
     void SetupWindow() override;

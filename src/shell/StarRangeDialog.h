@@ -27,8 +27,6 @@ public:
 
     // The working settings; after OK the caller takes the two ranges of the dialog from them.
     const StarDisplayParameters& GetStarDisplayParameters() const { return Parameters; }
-    // The magnitude a sample shows: 0 the dimmer, 1 the brighter.
-    double GetSampleMagnitude(int sample) const { return aSamples[sample].GetMagnitude(); }
 
     void SetupWindow() override;
     void CmOk() override;

@@ -107,8 +107,9 @@ TEST_F(StarDialogs, TheSamplesFollowTheLimitAndTheDefaultsKeepThePrintedChartsPa
                 Type(dialog, StarDisplayDialog::kLimit, limit);
                 Desk().PressKey(VK_TAB);
                 std::string shown;
-                for (int id = StarDisplayDialog::kFirstSampleMagnitude; id < 0x7b; ++id) {
-                    shown.append(Text(dialog, id)).append(id < 0x7a ? " " : "");
+                for (int i = 0; i < StarDisplayDialog::kSampleCount; ++i) {
+                    shown.append(i ? " " : "")
+                        .append(Text(dialog, StarDisplayDialog::kFirstSampleMagnitude + i));
                 }
                 EXPECT_EQ(shown, texts);
             }
