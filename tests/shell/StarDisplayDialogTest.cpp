@@ -58,18 +58,18 @@ protected:
 
 TEST_F(StarDialogs, ALimitIsKeptWithinFiftyAndAMagnitudeThatIsNoNumberIsRefused)
 {
-    // Limit and label limit typed (with names shown), the limit taken, the field refused.
+    // Limit and label limit typed (with names shown), the limit taken, the field refused;
+    // "\b" empties the field.
     const std::tuple<const char*, const char*, double, int> cases[] = {
         {"4", "3", 4.0, 0},
         {"60", "2", 50.0, 0},
         {"-60", "2", -50.0, 0},
         {" 7.5 ", "1e1", 7.5, 0},
         {"abc", "2", 6.0, StarDisplayDialog::kLimit},
-        {"\b", "2", 6.0, StarDisplayDialog::kLimit}, // an empty field
+        {"\b", "2", 6.0, StarDisplayDialog::kLimit},
         {"6,5", "2", 6.0, StarDisplayDialog::kLimit},
         {"nan", "2", 6.0, StarDisplayDialog::kLimit},
-        {"5", "bright", 6.0, StarDisplayDialog::kLabelLimit},
-    };
+        {"5", "bright", 6.0, StarDisplayDialog::kLabelLimit}};
     for (const auto& [limit, label, taken, refused] : cases) {
         Messages.clear();
         const Stars result =
@@ -155,12 +155,10 @@ TEST_F(StarDialogs, TheSlidersStopAtTheirEndsAndTheSampleOfTheirRowFollows)
                 Press(outer, button);
                 Press(outer, IDOK);
             });
+        const bool sizes = button == StarDisplayDialog::kModifySizes;
         std::ostringstream range;
-        if (button == StarDisplayDialog::kModifySizes) {
-            range << result.SizeRange.Lower << " " << result.SizeRange.Upper;
-        } else {
-            range << result.IntensityRange.Lower << " " << result.IntensityRange.Upper;
-        }
+        range << (sizes ? result.SizeRange.Lower : result.IntensityRange.Lower) << " "
+              << (sizes ? result.SizeRange.Upper : result.IntensityRange.Upper);
         EXPECT_EQ(range.str(), taken) << slider;
     }
 }
