@@ -37,6 +37,7 @@
 #include "shell/GridDialog.h"
 #include "shell/LocationDialog.h"
 #include "shell/ObjectListDialog.h"
+#include "shell/StarDisplayDialog.h"
 #include "shell/StopAnimationDialog.h"
 #include "shell/TimeDialog.h"
 #include "skyview/AstroPrintDialog.h"
@@ -165,6 +166,7 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         CmRow<kCmLocateSun, &AstroNoxWindow::CmLocateSun>(),
         CmRow<kCmLocateMoon, &AstroNoxWindow::CmLocateMoon>(),
         CmRow<kCmDumpTimeZoneNames, &AstroNoxWindow::CmDumpTimeZoneNames>(),
+        CmRow<kCmDisplayStars, &AstroNoxWindow::CmDisplayStars>(),
         CmRow<kCmDisplayFlyout, &AstroNoxWindow::CmDisplayFlyout>(),
         CmRow<kCmLocateFlyout, &AstroNoxWindow::CmLocateFlyout>(),
         CmRow<kCmConstellationFlyout, &AstroNoxWindow::CmConstellationFlyout>(),
@@ -825,6 +827,16 @@ void AstroNoxWindow::CmDumpTimeZoneNames()
     if (file.OpenForWriting((directory + "/" + kTimeZoneDumpFile).c_str())) {
         TimeZone::PrintAllTimeZoneNames(file);
     }
+}
+
+void AstroNoxWindow::CmDisplayStars()
+{
+    StarDisplayDialog dialog(DialogParent(), pMap->GetDisplayParameters());
+    if (dialog.Execute() != IDOK) {
+        return;
+    }
+    pMap->SetStarDisplayParameters(dialog.GetStarDisplayParameters());
+    SaveAsDefaultState();
 }
 
 void AstroNoxWindow::SetBusy(bool busy)
