@@ -229,6 +229,12 @@ void SdlBackend::ShowNativeWindow(HWND window, bool visible)
         if (visible) {
             SDL_ShowWindow(native);
             SDL_RaiseWindow(native);
+            // A window shown takes the keyboard: without a window manager nothing else gives
+            // it, and the keys would go nowhere. A menu leaves it with its owner, which routes
+            // the keys to it.
+            if (!(SDL_GetWindowFlags(native) & SDL_WINDOW_POPUP_MENU)) {
+                SDL_SetWindowInputFocus(native);
+            }
         } else {
             SDL_HideWindow(native);
         }
