@@ -4,8 +4,7 @@
 #include "platform/TBrush.h"
 #include "platform/TDC.h"
 
-void HostTransparentItemMaster::paint(TDC& dc, const TRect& rect, bool selected,
-                                      bool focused) const
+void HostTransparentItemMaster::paint(TDC& dc, const TRect& rect, bool selected, bool focused) const
 {
     if (selected) {
         dc.FillRect(rect, TBrush(BackgroundHiliteColor));

@@ -48,6 +48,8 @@ constexpr long kDefaultSearchDelay = 500;
 // The colour static controls are painted on.
 constexpr COLORREF kStaticBrushColor = RGB(205, 206, 207);
 
+// Room beside the drop-down's longest name, in pixels: its frame and the finder's margins.
+constexpr int kWidthSlack = 25;
 // Pixels between the children and round the edges.
 constexpr int kGap = 3;
 constexpr int kRowGap = 4;
@@ -88,9 +90,9 @@ AstroFinderWindow::AstroFinderWindow(TWindow* parent, AstroNoxWindow* owner,
                                      AstroItemCollector* collector, UINT selectedMessage)
     : TLayoutWindow(parent), nSelectedMessage(selectedMessage),
       ListTypeText(getHostString(kStringTable, kListTypeLabelText)),
-      nSearchDelay(int(std::clamp(
-          HostProfile().GetInt("Global Config", "AutoSearchDelay", kDefaultSearchDelay), 1L,
-          long(std::numeric_limits<int>::max())))),
+      nSearchDelay(int(
+          std::clamp(HostProfile().GetInt("Global Config", "AutoSearchDelay", kDefaultSearchDelay),
+                     1L, long(std::numeric_limits<int>::max())))),
       NameText(getHostString(kStringTable, kNameLabelText)), BackgroundColor(PanelBackground()),
       pCollector(collector), pTextFont(getHostFont(APP_FONTS, kTextFont)), pOwner(owner)
 {
@@ -143,8 +145,9 @@ int AstroFinderWindow::GetDesiredWidth()
     static const int width = [] {
         TMemoryDC dc;
         dc.SelectObject(*getHostFont(APP_FONTS, kTextFont));
-        const std::string widest = getHostString(kStringTable, kListTypeLabelText) + " Constellation";
-        return dc.GetTextExtent(widest).cx + GetSystemMetrics(SM_CXHSCROLL) + 25;
+        const std::string widest =
+            getHostString(kStringTable, kListTypeLabelText) + " Constellation";
+        return dc.GetTextExtent(widest).cx + GetSystemMetrics(SM_CXHSCROLL) + kWidthSlack;
     }();
     return width;
 }

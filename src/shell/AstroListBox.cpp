@@ -47,7 +47,7 @@ AstroListBox::AstroListBox(TWindow* parent, int id, AstroCatalogue* catalogue)
 AstroListBox::~AstroListBox()
 {
     // The list lets go of its master before the master goes.
-    SetItemMaster(nullptr);
+    setItemMaster(nullptr);
 }
 
 void AstroListBox::SetupWindow()

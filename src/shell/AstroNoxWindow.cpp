@@ -448,11 +448,22 @@ void AstroNoxWindow::SetStatusWindowState(bool on)
     } else {
         // The map lets go of the panel before it goes; its blocks leave the panel with it.
         pMap->DetachStatusWindow();
-        AstroStatusWindow* going = pStatus;
-        pStatus = nullptr;
-        going->Destroy();
-        delete going;
+        DeleteSideWindow(pStatus);
     }
+    SideWindowsChanged();
+}
+
+template <class Side>
+void AstroNoxWindow::DeleteSideWindow(Side*& side)
+{
+    Side* going = side;
+    side = nullptr;
+    going->Destroy();
+    delete going;
+}
+
+void AstroNoxWindow::SideWindowsChanged()
+{
     if (HWindow) {
         LayoutWindows(GetClientRect().Size());
         Layout();
@@ -480,23 +491,16 @@ void AstroNoxWindow::SetFinderWindowState(bool on)
         CreateFinderWindow();
         UpdateDirectionWindow();
     } else {
-        AstroFinderWindow* going = pFinder;
-        pFinder = nullptr;
-        going->Destroy();
-        delete going;
+        DeleteSideWindow(pFinder);
     }
-    if (HWindow) {
-        LayoutWindows(GetClientRect().Size());
-        Layout();
-        Invalidate();
-    }
+    SideWindowsChanged();
 }
 
 void AstroNoxWindow::CreateFinderWindow()
 {
     // A child: the window tree owns it.
-    pFinder = new AstroFinderWindow(this, this, &pMap->GetCollector(),
-                                    kObjectSelectedFromListMessage);
+    pFinder =
+        new AstroFinderWindow(this, this, &pMap->GetCollector(), kObjectSelectedFromListMessage);
     if (HWindow) {
         pFinder->Create();
     }

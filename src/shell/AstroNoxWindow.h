@@ -223,6 +223,11 @@ private:
     TWindow* DialogParent();
     // Whether the host shows the component full screen.
     bool IsFullScreen();
+    // Takes a side window away: the pointer is cleared before the window goes.
+    template <class Side>
+    void DeleteSideWindow(Side*& side);
+    // Lays the windows out again once a side window came or went.
+    void SideWindowsChanged();
 };
 
 StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window);

@@ -177,9 +177,14 @@ TEST_F(AstroFinderTest, AnUnknownBeginningLeadsToWhereTheNameWouldStand)
         const char* Row;
     };
     const Case cases[] = {
-        {0, "", "Andromeda"},       {0, "CANIS", "Canis Major"}, {0, "Cx", "Cygnus"},
-        {0, "Zz", "Vulpecula"},     {1, "s", "Saturn"},          {3, "m1", "M1 (Crab Nebula)"},
-        {3, "Crab", "M1 (Crab Nebula)"}, {3, "m110", "M110"},
+        {0, "", "Andromeda"},
+        {0, "CANIS", "Canis Major"},
+        {0, "Cx", "Cygnus"},
+        {0, "Zz", "Vulpecula"},
+        {1, "s", "Saturn"},
+        {3, "m1", "M1 (Crab Nebula)"},
+        {3, "Crab", "M1 (Crab Nebula)"},
+        {3, "m110", "M110"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.Typed);
@@ -302,14 +307,16 @@ TEST_F(AstroFinderTest, TheDirectionWindowAndTheButtonsWorkTheMap)
     HostStackableControlBar& bar = finder.GetButtonBar();
     auto press = [&](int id) {
         const TRect bounds = bar.GadgetWithId(id)->GetBounds();
-        Desk().Click(bar, TPoint(bounds.left + bounds.Width() / 2, bounds.top + bounds.Height() / 2));
+        Desk().Click(bar,
+                     TPoint(bounds.left + bounds.Width() / 2, bounds.top + bounds.Height() / 2));
         Pump();
     };
     press(AstroFinderWindow::kZoomInButton);
     EXPECT_DOUBLE_EQ(map.GetOrientation().GetFieldRadius(), 15.0);
     press(AstroFinderWindow::kZoomOutButton);
     EXPECT_DOUBLE_EQ(map.GetOrientation().GetFieldRadius(), 20.0);
-    auto* outline = dynamic_cast<HostAnimButtonGadget*>(bar.GadgetWithId(AstroFinderWindow::kOutlineButton));
+    auto* outline =
+        dynamic_cast<HostAnimButtonGadget*>(bar.GadgetWithId(AstroFinderWindow::kOutlineButton));
     ASSERT_NE(outline, nullptr);
     EXPECT_EQ(outline->GetBitmapFile(), "showoutl.bmp");
     press(AstroFinderWindow::kOutlineButton);
