@@ -215,12 +215,22 @@ TEST_F(AstroFinderTest, TheListAndTheNameFieldFollowEachOther)
     Pump();
     EXPECT_EQ(finder.GetNameEdit().GetText(), list.GetString(list.GetSelIndex()));
 
+    // A click on a row, then Return; a double click on the row below.
     const int height = list.GetItemHeight();
-    Desk().DoubleClick(list, TPoint(20, 1 + height / 2));
+    const int top = list.GetTopIndex();
+    Desk().Click(list, TPoint(20, 1 + height / 2));
     Pump();
-    EXPECT_EQ(window.GetMap()->GetLastTargetName(), list.GetString(list.GetTopIndex()));
-    EXPECT_EQ(finder.GetNameEdit().GetText(), list.GetString(list.GetTopIndex()));
+    EXPECT_EQ(finder.GetNameEdit().GetText(), list.GetString(top));
+    Desk().Type("\r");
+    Pump();
+    EXPECT_EQ(window.GetMap()->GetLastTargetName(), list.GetString(top));
+    Desk().DoubleClick(list, TPoint(20, 1 + height + height / 2));
+    Pump();
+    EXPECT_EQ(window.GetMap()->GetLastTargetName(), list.GetString(top + 1));
 
+    // A click into the field selects what it holds, so that typing replaces it.
+    TypeName(finder, "veg");
+    EXPECT_EQ(finder.GetNameEdit().GetText(), "veg");
     TypeName(finder, "\x1b");
     EXPECT_EQ(finder.GetNameEdit().GetText(), "");
     Desk().AdvanceTime(1000);
@@ -275,6 +285,13 @@ TEST_F(AstroFinderTest, TheFinderStandsBesideTheMapInFullScreenModeOnly)
     window.SendMessage(WM_COMMAND, AstroNoxWindow::kCmDisplayLocatorControls);
     EXPECT_NE(window.GetFinderWindow(), nullptr);
 
+    // A window too small for the finder squeezes the map to nothing, and back.
+    for (const TSize size : {TSize(40, 30), TSize(1, 1), TSize(1000, 700)}) {
+        Host.MoveWindow(0, 0, size.cx, size.cy);
+        Pump();
+    }
+    EXPECT_EQ(map.GetRect().left, 400 + inset);
+
     // Leaving full-screen mode is a change of size; a bookmark then asks for the finder in vain.
     Host.bFullScreen = false;
     Host.MoveWindow(0, 0, 900, 700);
@@ -323,6 +340,39 @@ TEST_F(AstroFinderTest, TheDirectionWindowAndTheButtonsWorkTheMap)
     EXPECT_TRUE(map.GetConstellationSettings().bShowFigures);
     EXPECT_EQ(outline->GetBitmapFile(), "hideoutl.bmp");
     EXPECT_EQ(bar.GadgetWithId(AstroFinderWindow::kSkyhuntButton), nullptr) << "not enabled";
+}
+
+// The list paints in the profile's colours, its rows on the list's own background and its
+// scroll bar's track in a colour of its own; the buttons let the panel show round them.
+TEST_F(AstroFinderTest, TheListAndTheButtonsShowTheProfilesColours)
+{
+    ASSERT_TRUE(HostProfile().Write("Orbiscope", "BackgroundListColor", "0, 0, 64"));
+    ASSERT_TRUE(HostProfile().Write("Orbiscope", "BackgroundHiliteColor", "128, 0, 0"));
+    ASSERT_TRUE(HostProfile().Write("Orbiscope", "CustomScrollBarFillColor", "0, 64, 0"));
+    AstroFinderWindow& finder = *StartFullScreen().GetFinderWindow();
+    AstroListBox& list = finder.GetObjectList();
+    auto colorAt = [&](const TWindow& child, TPoint point) {
+        const TRect rect = child.GetRect();
+        return WindowSystem::Get()
+            .CaptureWindow(finder.HWindow)
+            ->ColorAt(rect.left + point.x, rect.top + point.y);
+    };
+    const TWindow* scrollBar = list.ChildWithId(AstroListBox::kScrollBarId);
+    ASSERT_NE(scrollBar, nullptr);
+    const int rowEnd = scrollBar->GetRect().left - 2;
+    const int height = list.GetItemHeight();
+    EXPECT_EQ(colorAt(list, TPoint(rowEnd, 1 + height / 2)), RGB(0, 0, 64));
+    EXPECT_EQ(colorAt(list, TPoint(scrollBar->GetRect().left + 1, list.GetRect().Height() / 2)),
+              RGB(0, 64, 0));
+    TypeName(finder, "\r");
+    Desk().PressKey(VK_DOWN);
+    Pump();
+    EXPECT_EQ(colorAt(list, TPoint(rowEnd, 1 + height / 2)), RGB(128, 0, 0));
+
+    HostStackableControlBar& bar = finder.GetButtonBar();
+    const TRect button = bar.GadgetWithId(AstroFinderWindow::kZoomInButton)->GetInnerRect();
+    EXPECT_EQ(colorAt(bar, button.TopLeft()), RGB(0, 0, 0)) << "the black panel";
+    EXPECT_NE(colorAt(bar, TPoint(button.left + button.Width() / 2, button.top + 3)), RGB(0, 0, 0));
 }
 
 } // namespace
