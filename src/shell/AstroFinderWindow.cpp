@@ -284,6 +284,8 @@ void AstroFinderWindow::EvSize(UINT sizeType, TSize& size)
 
 HBRUSH AstroFinderWindow::EvCtlColor(HDC dc, HWND, UINT)
 {
+    // Plain static controls stand on a light grey, their text cells in the panel's colour; the
+    // host's labels paint themselves and do not ask.
     dc->SetBkColor(BackgroundColor);
     dc->SetBkMode(OPAQUE);
     if (!pBackgroundBrush) {
