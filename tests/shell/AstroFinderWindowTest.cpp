@@ -303,23 +303,45 @@ TEST_F(AstroFinderTest, TheFinderStandsBesideTheMapInFullScreenModeOnly)
     EXPECT_EQ(map.GetRect().left, Frame.GetMetric(kHostMetricBezelWidth));
 }
 
-// The direction window shows where the map looks; a click on its disc turns the map there. The
+// The direction window shows where the map looks; a click on its disc turns the map there: the
+// middle is the zenith, the top north, the rim the horizon, distances from the middle true. The
 // buttons zoom and show the constellation figures, the figure button's picture telling which.
 TEST_F(AstroFinderTest, TheDirectionWindowAndTheButtonsWorkTheMap)
 {
-    AstroNoxWindow& window = StartFullScreen();
+    // The zenith at RA 30, Dec 40: north of it along the meridian lies the pole.
+    AstroNoxWindow& window = StartFullScreen(
+        "FullState=1 AstroNoxWindow=<MapWindow=<Orientation_Type=0 Orientation=<Base=<Radius=20> "
+        "CenterOfView=<RA=30 Dec=40> Zenith=<RA=30 Dec=40>>> DisplayFinderWindow=1>");
     AstroFinderWindow& finder = *window.GetFinderWindow();
     MapWindow& map = *window.GetMap();
     DirectionWindow& direction = finder.GetDirectionWindow();
-    EXPECT_EQ(direction.GetDrawer().GetCenter(), PolarCoord(0, 0));
+    EXPECT_EQ(direction.GetDrawer().GetCenter(), map.GetOrientation().GetCenterOfView());
     ASSERT_EQ(direction.GetDrawer().GetFieldPoints().size(), 4u);
 
-    // The middle of the disc is the zenith, the pole of this chart.
     const TRect disc = direction.GetDrawer().GetCircleRect();
-    Desk().Click(direction, TPoint(disc.left + disc.Width() / 2, disc.top + disc.Height() / 2));
-    Pump();
-    EXPECT_GT(map.GetOrientation().GetCenterOfView().GetDec().GetDegrees(), 88.0);
-    EXPECT_EQ(direction.GetDrawer().GetCenter(), map.GetOrientation().GetCenterOfView());
+    const TPoint middle(disc.left + disc.Width() / 2, disc.top + disc.Height() / 2);
+    const int radius = disc.Height() / 2;
+    struct Click
+    {
+        const char* Where;
+        TPoint At;
+        double RA, Dec; // degrees
+    };
+    const Click clicks[] = {
+        {"middle", middle, 30.0, 40.0},
+        {"half way north", TPoint(middle.x, middle.y - radius / 2), 30.0, 85.0},
+        {"half way south", TPoint(middle.x, middle.y + radius / 2), 30.0, -5.0},
+        {"outside the disc: nothing moves", TPoint(disc.left + 1, disc.top + 1), 30.0, -5.0},
+    };
+    for (const Click& click : clicks) {
+        SCOPED_TRACE(click.Where);
+        Desk().Click(direction, click.At);
+        Pump();
+        const PolarCoord centre = map.GetOrientation().GetCenterOfView();
+        EXPECT_NEAR(centre.GetRA().GetDegrees(), click.RA, 1.0);
+        EXPECT_NEAR(centre.GetDec().GetDegrees(), click.Dec, 1.0);
+        EXPECT_EQ(direction.GetDrawer().GetCenter(), centre) << "the window follows the map";
+    }
 
     HostStackableControlBar& bar = finder.GetButtonBar();
     auto press = [&](int id) {
