@@ -114,7 +114,9 @@ int AstroListBox::FindPrefix(const std::string& text) const
             hi = mid;
         }
     }
-    return StartsWith(aItems[std::size_t(lo)].GetName(), text) ? lo : hi;
+    // A text that sorts before the first name leads to the first row, where it would stand.
+    const std::string& low = aItems[std::size_t(lo)].GetName();
+    return StartsWith(low, text) || CompareNoCase(low, text) > 0 ? lo : hi;
 }
 
 AstroObject* AstroListBox::GetObject(int row) const

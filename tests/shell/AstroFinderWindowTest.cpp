@@ -179,6 +179,7 @@ TEST_F(AstroFinderTest, AnUnknownBeginningLeadsToWhereTheNameWouldStand)
     const Case cases[] = {
         {0, "", "Andromeda"},
         {0, "CANIS", "Canis Major"},
+        {0, "Aa", "Andromeda"},
         {0, "Cx", "Cygnus"},
         {0, "Zz", "Vulpecula"},
         {1, "s", "Saturn"},
