@@ -176,6 +176,7 @@ TEST_F(AstroFinderTest, AnUnknownBeginningLeadsToWhereTheNameWouldStand)
         const char* Typed;
         const char* Row;
     };
+    // clang-format off
     const Case cases[] = {
         {0, "", "Andromeda"},
         {0, "CANIS", "Canis Major"},
@@ -183,10 +184,12 @@ TEST_F(AstroFinderTest, AnUnknownBeginningLeadsToWhereTheNameWouldStand)
         {0, "Cx", "Cygnus"},
         {0, "Zz", "Vulpecula"},
         {1, "s", "Saturn"},
+        {1, "me", "Mercury"},
         {3, "m1", "M1 (Crab Nebula)"},
         {3, "Crab", "M1 (Crab Nebula)"},
         {3, "m110", "M110"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.Typed);
         PickCatalogue(finder, c.Catalogue);
