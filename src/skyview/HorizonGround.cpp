@@ -35,7 +35,8 @@ bool HorizonGround::Covers(const TPoint& point) const
         // Off the disc: ground where the rim straight out from the centre is.
         return (Zenith.GetX() * x + Zenith.GetY() * y) / std::sqrt(rim) < kRimTolerance;
     }
-    const double height = Zenith.GetX() * x + Zenith.GetY() * y + Zenith.GetZ() * std::sqrt(1.0 - rim);
+    const double height =
+        Zenith.GetX() * x + Zenith.GetY() * y + Zenith.GetZ() * std::sqrt(1.0 - rim);
     return height < 0.0;
 }
 

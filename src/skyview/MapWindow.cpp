@@ -648,8 +648,8 @@ bool MapWindow::ShowPointerPosition(const TPoint& point)
     }
     // Altitude and azimuth in the frame of the projection's zenith, whose RA runs from north
     // through west: the azimuth shown runs from north through east, as a compass reads.
-    const PerspectiveModifier local(RotatingOrientationInfo::KeepOffPole(pTransformation->GetZenith()),
-                                    PolarCoord(0.0, 90.0));
+    const PerspectiveModifier local(
+        RotatingOrientationInfo::KeepOffPole(pTransformation->GetZenith()), PolarCoord(0.0, 90.0));
     PolarCoord horizontal;
     local.ChangePerspective(sky, horizontal);
     PointerItem.Set(position, PositiveDegreeAngle(360.0 - horizontal.GetRA().GetDegrees()),
@@ -712,8 +712,8 @@ void MapWindow::LoadHorizonPoints(const Transformation& t)
     HorizonPoints.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i) {
         PolarCoord sky;
-        local.ReversePerspective(PolarCoord(PositiveDegreeAngle(first + i * step), DegreeAngle(0.0)),
-                                 sky);
+        local.ReversePerspective(
+            PolarCoord(PositiveDegreeAngle(first + i * step), DegreeAngle(0.0)), sky);
         TPoint p;
         t.Translate(sky, p);
         HorizonPoints.push_back(p);

@@ -57,8 +57,8 @@ std::string PlaceText(const LatLong& place)
     auto arc = [](double degrees, char positive, char negative) {
         const long minutes = std::lround(std::fabs(degrees) * 60.0);
         char text[48];
-        std::snprintf(text, sizeof text, "%ld%c%02ld' %c", minutes / 60, kDegreeSign,
-                      minutes % 60, degrees < 0.0 ? negative : positive);
+        std::snprintf(text, sizeof text, "%ld%c%02ld' %c", minutes / 60, kDegreeSign, minutes % 60,
+                      degrees < 0.0 ? negative : positive);
         return std::string(text);
     };
     double west = place.GetLongitude().GetDegrees();

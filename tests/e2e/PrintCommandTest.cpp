@@ -38,9 +38,8 @@ TEST_F(PrintCommandTest, PrintsTheChartOfTheViewOnOneLetterPage)
     EXPECT_EQ(PdfInfo(chart, "Page size"), "612 x 792 pts (letter)");
 
     const std::string text = Poppler("pdftotext", chart, "-");
-    for (const char* line :
-         {"9:30:00pm January 1, 2000 UTC\n", "Minimum field Of View: 40\xC2\xB0",
-          "Center RA: 05h 36m 00.0s", "Center Dec: + 00\xC2\xB0 00' 00.0\""}) {
+    for (const char* line : {"9:30:00pm January 1, 2000 UTC\n", "Minimum field Of View: 40\xC2\xB0",
+                             "Center RA: 05h 36m 00.0s", "Center Dec: + 00\xC2\xB0 00' 00.0\""}) {
         EXPECT_NE(text.find(line), std::string::npos) << line << " in:\n" << text;
     }
 }
@@ -54,7 +53,10 @@ TEST_F(PrintCommandTest, TheViewFromTheGroundPrintsOnA4ByDefaultWithItsPlace)
     EXPECT_EQ(PdfInfo(chart, "Pages"), "1");
     EXPECT_EQ(PdfInfo(chart, "Page size"), "595.276 x 841.89 pts (A4)");
     const std::string text = Poppler("pdftotext", chart, "-");
-    for (const char* line : {"50\xC2\xB0" "00' N, 8\xC2\xB0" "42' E", "Minimum field Of View: 80"}) {
+    for (const char* line : {"50\xC2\xB0"
+                             "00' N, 8\xC2\xB0"
+                             "42' E",
+                             "Minimum field Of View: 80"}) {
         EXPECT_NE(text.find(line), std::string::npos) << line << " in:\n" << text;
     }
 }

@@ -334,9 +334,9 @@ TEST_F(RenderCommandTest, TheDaySkyTheWholeSkyAndAWideWindowFromTheGroundMatchTh
 {
     ExpectGoldenView("day-lat50-noon-radius40", {"--time", "2000-06-21 12:00", "--location", "50,0",
                                                  "--look", "180,30", "--radius", "40"});
-    ExpectGoldenView("whole-sky-lat50-zenith", {"--location", "50,0", "--look", "180,90",
-                                                "--radius", "90", "--limit", "5"});
-    ExpectGoldenView("wide-lat50-south-radius20", {"--size", "1000x200", "--location", "50,0",
-                                                   "--look", "180,10", "--radius", "20",
-                                                   "--limit", "5"});
+    ExpectGoldenView("whole-sky-lat50-zenith",
+                     {"--location", "50,0", "--look", "180,90", "--radius", "90", "--limit", "5"});
+    ExpectGoldenView("wide-lat50-south-radius20",
+                     {"--size", "1000x200", "--location", "50,0", "--look", "180,10", "--radius",
+                      "20", "--limit", "5"});
 }

@@ -1,10 +1,9 @@
 // The horizon line of a view from the ground: drawn only when the field comes within 15
 // degrees of it and the horizon is shown, through points that lie on it, also at a pole of the
-// sky, across the whole view in any shape, and worked out again after a resize; and the ground
-// below it. Its pixels are checked by the whole-program pictures of views from 50 N.
+// sky, and worked out again after a resize; and the ground below it. That it crosses views of
+// every shape is checked by the whole-program pictures of views from 50 N.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <vector>
 
 #include "MapFixture.h"
@@ -86,20 +85,15 @@ TEST_F(MapHorizonTest, AfterAResizeItIsWorkedOutAgainAndHiddenOrOnAFixedViewItIs
     EXPECT_EQ(Magenta(), 0);
 }
 
-TEST_F(MapHorizonTest, ItCrossesTheWholeViewAndTheGroundBelowItHidesTheSky)
+TEST_F(MapHorizonTest, TheGroundBelowItHidesTheSkyOnlyWhileTheViewIsKeptAboveIt)
 {
-    // A window three times as wide as high, looking 10 degrees up: the line runs out of the
-    // window on both sides. Each pixel is ground exactly when it lies below the horizon, stars
-    // or none; a view that may sink below the horizon has no ground.
+    // A window three times as wide as high, looking 10 degrees up, whose line runs out of it
+    // on both sides: each pixel is ground exactly when it lies below the horizon, stars or
+    // none. A view that may sink below the horizon has no ground.
     Open(480, 160, true);
     Map().ShowPlanets(false);
     Map().SetConstellationSettings(ConstellationSettings(false, false, false));
     RecordingMap& map = Look(50.0, 180.0, 80.0, 10.0);
-    const auto [left, right] = std::minmax_element(
-        map.GetHorizonPoints().begin(), map.GetHorizonPoints().end(),
-        [](const TPoint& a, const TPoint& b) { return a.x < b.x; });
-    EXPECT_LT(left->x, 0);
-    EXPECT_GE(right->x, 480);
     const unsigned ground = IndexOf(TColor(40, 40, 40));
     int wrong = 0;
     int below = 0;
@@ -121,9 +115,4 @@ TEST_F(MapHorizonTest, ItCrossesTheWholeViewAndTheGroundBelowItHidesTheSky)
     map.SetTime(AstroTime(1, 1, 2000, 0.0));
     Pump();
     EXPECT_EQ(CountValue(Bitmap(), ground), 0);
-
-    // Looking at the zenith with the whole sky in view, the line is a closed circle.
-    const std::vector<TPoint>& circle = Look(50.0, 0.0, 0.0, 90.0).GetHorizonPoints();
-    EXPECT_EQ(circle.front(), circle.back());
-    EXPECT_GT(std::abs(circle[circle.size() / 2].y - circle.front().y), 150);
 }

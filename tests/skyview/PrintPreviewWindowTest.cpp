@@ -1,7 +1,7 @@
 // The printed star chart: what is on the page (dark labels, lines a quarter millimetre wide, the
 // ground light), the preview, scaled into its window and drawn anew at each repaint, and a
-// chart that cannot be written. The heading's text in the written file is checked by the whole-program
-// print test, the preview in the print dialog by the component window's print test.
+// chart that cannot be written. The heading's text in the written file is checked by the
+// whole-program print test, the preview in the print dialog by the component window's print test.
 #include <gtest/gtest.h>
 
 #include <map>
