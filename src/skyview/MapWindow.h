@@ -161,10 +161,6 @@ public:
     // on the view against the horizon, not on the time.
     void DrawHorizon(TDC& dc, const RotatingOrientationInfo& o, const Transformation& t,
                      const TRect& rect);
-    // How far in azimuth (degrees) either side of the centre of view the horizon is in view,
-    // for a centre that far from the zenith and a view of that visible radius: 180 when all
-    // of it is, below 0 when none of it is.
-    static double HorizonReach(double fromZenith, double visibleRadius);
     // A picture and its mask (paths may carry the host's logical prefixes) to merge over the
     // sky from the next paint on, which the caller brings about. White in the mask lets the
     // sky through; black shows the picture. Both are stretched to the window.
@@ -416,6 +412,10 @@ private:
     bool SunIsUp();
     // Works out the horizon's points for `t`.
     void LoadHorizonPoints(const Transformation& t);
+    // How far in azimuth (degrees) either side of the centre of view the horizon is in view,
+    // for a centre that far from the zenith and a view of that visible radius: 180 when all
+    // of it is, below 0 when none of it is.
+    static double HorizonReach(double fromZenith, double visibleRadius);
     // Asks the user a yes-no question; true for yes.
     bool AskYesNo(const std::string& text, const std::string& caption);
     // Redraws the frame at once although nothing in the view changed (a blink step, the end of
