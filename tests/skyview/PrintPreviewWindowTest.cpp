@@ -11,6 +11,8 @@
 #include "host/ScopedHome.h"
 #include "platform/TPrintDC.h"
 #include "projection/RotatingOrientationInfo.h"
+#include "skyview/DirectionDrawer.h"
+#include "skyview/PrintPageLayout.h"
 #include "skyview/PrintPreviewWindow.h"
 
 namespace {
@@ -124,4 +126,20 @@ TEST_F(PrintPreviewTest, ThePreviewKeepsThePagesShapeAndDrawsTheWholeSkyAnewAtEa
     PrintPreviewWindow copies(nullptr, &Map(), Printer(72), 3);
     EXPECT_TRUE(copies.PrintCopies());
     EXPECT_EQ(copies.GetPrintDC()->GetPageCount(), 3);
+}
+
+TEST(PrintPageLayout, OnASmallCardTheSkyKeepsMoreThanHalfThePage)
+{
+    // A card three by four inches: the band under the sky is a third of it, not two inches.
+    Surface card(300, 400, PixelFormat::Rgb32);
+    DeviceCaps caps;
+    caps.LogPixelsX = caps.LogPixelsY = 100;
+    caps.HorzRes = 300;
+    caps.VertRes = 400;
+    TDC dc(card, caps);
+    DirectionDrawer compass;
+    PrintPageLayout layout;
+    layout.LayOut(dc, compass);
+    EXPECT_GT(layout.GetSkyRect().Height(), 200);
+    EXPECT_LE(layout.GetSkyRect().bottom, layout.GetCompassRect().top);
 }
