@@ -12,6 +12,8 @@
 #include "host/ScopedHome.h"
 #include "platform/TPrintDC.h"
 #include "projection/RotatingOrientationInfo.h"
+#include "skyview/DirectionDrawer.h"
+#include "skyview/PrintPageLayout.h"
 #include "skyview/PrintPreviewWindow.h"
 
 namespace {
@@ -191,4 +193,20 @@ TEST_F(PrintPreviewTest, AChartThatCannotBeWrittenIsReportedWithTheReason)
     preview.Print();
     EXPECT_NE(said.find("could not be printed"), std::string::npos) << said;
     EXPECT_NE(said.find("No such file or directory"), std::string::npos) << said;
+}
+
+TEST(PrintPageLayout, OnASmallCardTheSkyKeepsMoreThanHalfThePage)
+{
+    // A card three by four inches: the band under the sky is a third of it, not two inches.
+    Surface card(300, 400, PixelFormat::Rgb32);
+    DeviceCaps caps;
+    caps.LogPixelsX = caps.LogPixelsY = 100;
+    caps.HorzRes = 300;
+    caps.VertRes = 400;
+    TDC dc(card, caps);
+    DirectionDrawer compass;
+    PrintPageLayout layout;
+    layout.LayOut(dc, compass);
+    EXPECT_GT(layout.GetSkyRect().Height(), 200);
+    EXPECT_LE(layout.GetSkyRect().bottom, layout.GetCompassRect().top);
 }
