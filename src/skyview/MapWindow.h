@@ -130,6 +130,9 @@ public:
     void Erase(TDC& dc, const TRect& rect);
     // The red status line in the top left corner: local time, date and place.
     void DisplayStatus(TDC& dc, const TRect& rect);
+    // The rectangle the status line covers, its text made anew when it is dirty; empty when
+    // the line is not shown (on paper).
+    TRect MeasureStatus(TDC& dc);
 
     // The status panel. The map owns its four blocks and keeps them up to date whether or not
     // a panel shows them: the time (local) when the time changed, the Moon after a draw at a
@@ -142,18 +145,20 @@ public:
     AstroStatusWindow* GetStatusWindow() const { return pStatusWindow; }
     // With a panel attached, fills the time, orientation and Moon blocks from the map's state.
     void RefreshAllStatus();
-    // Shows in the pointer block the sky at a point of the window; false (and the block as it
-    // was) before the first draw or off the sky.
+    // Shows in the pointer block the sky at a point of the window: RA and Dec, and for a view
+    // from the ground azimuth and altitude too. False, with the block emptied, before the
+    // first draw or off the sky. The map calls it as the mouse moves over it.
     bool ShowPointerPosition(const TPoint& point);
     const PositionStatusItem& GetPointerItem() const { return PointerItem; }
     const TimeStatusItem& GetTimeItem() const { return TimeItem; }
     const OrientationStatusItem& GetOrientationItem() const { return OrientationItem; }
 
     // The horizon and the foreground.
-    // The horizon of `o` as a magenta line through 200 points over twice the field radius of
-    // `t`, centred on the azimuth of view; nothing when the field ends more than 15 degrees
-    // short of the horizon. The points are kept for the next draw of the same offset, radius
-    // and rectangle: they depend on the view against the horizon, not on the time.
+    // The horizon of `o` as a magenta line across all of it that `t` shows, whatever the shape
+    // of the window, a whole circle in a view of the whole sky; 200 points to twice the field
+    // radius. Nothing when the field ends more than 15 degrees short of the horizon. The
+    // points are kept for the next draw of the same offset, radius and rectangle: they depend
+    // on the view against the horizon, not on the time.
     void DrawHorizon(TDC& dc, const RotatingOrientationInfo& o, const Transformation& t,
                      const TRect& rect);
     // A picture and its mask (paths may carry the host's logical prefixes) to merge over the
@@ -402,6 +407,15 @@ private:
     // Brings the Earth, the Sun and the Moon to the map's time, which the planets' request
     // does only while planets are shown, and fills the Moon block.
     void TellMoonItem();
+    void BringEarthAndSunToTime();
+    // Whether the Sun stands above the horizon of the view at the map's time.
+    bool SunIsUp();
+    // Works out the horizon's points for `t`.
+    void LoadHorizonPoints(const Transformation& t);
+    // How far in azimuth (degrees) either side of the centre of view the horizon is in view,
+    // for a centre that far from the zenith and a view of that visible radius: 180 when all
+    // of it is, below 0 when none of it is.
+    static double HorizonReach(double fromZenith, double visibleRadius);
     // Asks the user a yes-no question; true for yes.
     bool AskYesNo(const std::string& text, const std::string& caption);
     // Redraws the frame at once although nothing in the view changed (a blink step, the end of
