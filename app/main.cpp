@@ -7,11 +7,12 @@
 //   orbiscope --help | --version
 //
 // The program links nothing of the component. It loads liborbiscope.so at run time (the file
-// named by ORBISCOPE_LIBRARY, else the one beside the program, else the one of the build
-// tree), looks up the entry `orbiscope` and the host kit, makes a frame window, hands the
-// entry the frame and the command string, and runs the message loop; or, for `render`, lets
-// one frame be drawn on the headless desktop and writes the map to a PNG file; or, for
-// `print`, prints the chart of the view there into a PDF file.
+// named by ORBISCOPE_LIBRARY, else the one beside the program, else the one in the lib folder
+// of the program's installation, else the one of the build tree), looks up the entry
+// `orbiscope` and the host kit, makes a frame window, hands the entry the frame and the
+// command string, and runs the message loop; or, for `render`, lets one frame be drawn on the
+// headless desktop and writes the map to a PNG file; or, for `print`, prints the chart of the
+// view there into a PDF file.
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -127,6 +128,7 @@ std::optional<Component> LoadComponent(std::string& error)
         std::string beside = ProgramDirectory();
         if (!beside.empty()) {
             candidates.push_back(beside + "/liborbiscope.so");
+            candidates.push_back(beside + "/" + ORBISCOPE_INSTALLED_LIBRARY);
         }
         candidates.push_back(ORBISCOPE_BUILD_LIBRARY);
     }
