@@ -9,9 +9,10 @@
 // with the figures shown and the right one blinking, and the next click asks the next
 // question. After the fifth the score stands until a click starts a new round.
 //
-// The sky is that of the map's first view: San Francisco at the next nightfall, seen with the
-// zenith in the middle and 70 degrees to the nearer edge, stars and constellation figures
-// only. The mouse only answers: it neither moves the view nor opens anything.
+// The sky is that of the map's first view: over San Francisco, now when it is dark there and
+// else at the next sunset, seen with the zenith in the middle and 70 degrees to the nearer
+// edge, stars and constellation figures only. The mouse only answers: it neither moves the
+// view nor opens anything.
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -84,7 +85,7 @@ public:
 private:
     enum class Phase
     {
-        // The map has not drawn yet, so its time (the next nightfall) is not settled.
+        // The map has not drawn yet, so its time (the nearest dark time) is not settled.
         Waiting,
         Asking,
         Answered,
