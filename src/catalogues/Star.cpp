@@ -352,6 +352,11 @@ std::string Star::GetListName() const
 
 std::string Star::GetInfoName() const
 {
+    // A star the SAO catalogue does not hold (a companion it merged, a bright star it missed)
+    // carries number 0, which names nothing: show its name, or else where it stands.
+    if (nSAONumber == 0) {
+        return pName ? *pName : "Star at " + StellarCoord(Position).GetDescription();
+    }
     std::string number = "SAO" + std::to_string(nSAONumber);
     return pName ? *pName + " (" + number + ")" : number;
 }

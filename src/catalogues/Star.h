@@ -122,7 +122,8 @@ public:
     // The name, or the empty text.
     std::string GetListName() const override;
     bool HasInfoName() const override { return true; }
-    // "SAO12345", or "Sirius (SAO151881)".
+    // "SAO12345", or "Sirius (SAO151881)"; a star without an SAO number gives its name alone,
+    // or "Star at RA: ...   Dec: ..." when it has none.
     std::string GetInfoName() const override;
     std::string GetRefName() const override { return GetListName(); }
     // By list name, ignoring case.

@@ -319,7 +319,11 @@ bool TDialog::PreProcessMsg(MSG& msg)
 {
     if (msg.message == WM_CHAR && bSwallowChar) {
         bSwallowChar = false;
-        return true;
+        // Only the character of the key just handled, where the backend makes one; any other
+        // is what the user types next.
+        if (msg.wParam == '\t' || msg.wParam == '\r' || msg.wParam == 0x1b) {
+            return true;
+        }
     }
     if (msg.message != WM_KEYDOWN) {
         return false;

@@ -1,7 +1,9 @@
 #include "shell/AstroDialog.h"
 
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
+#include <sstream>
 
 #include "host/HostFrameAPI.h"
 #include "host/HostProf.h"
@@ -65,4 +67,39 @@ double AstroDialog::ReadNumber(int id) const
 {
     double value = std::strtod(GetDlgItemText(id).c_str(), nullptr);
     return std::isfinite(value) ? value : 0.0;
+}
+
+bool AstroDialog::ReadExactNumber(int id, double& value) const
+{
+    const std::string text = GetDlgItemText(id);
+    const char* start = text.c_str();
+    char* end = nullptr;
+    const double number = std::strtod(start, &end);
+    if (end == start) {
+        return false;
+    }
+    while (std::isspace(static_cast<unsigned char>(*end))) {
+        ++end;
+    }
+    if (*end != '\0' || !std::isfinite(number)) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+void AstroDialog::RefuseField(int id, const std::string& message)
+{
+    ShowMessage(message);
+    if (TWindow* field = GetControl(id)) {
+        field->SetFocus();
+        field->SendMessage(EM_SETSEL, 0, -1);
+    }
+}
+
+std::string AstroDialog::FormatNumber(double value)
+{
+    std::ostringstream text;
+    text << value;
+    return text.str();
 }

@@ -33,4 +33,12 @@ protected:
     // none, the nearest value the type holds when it is too large.
     long ReadInteger(int id) const;
     double ReadNumber(int id) const;
+    // The number a field holds when its whole text is one finite number, blanks around it
+    // allowed; false, leaving `value` alone, for text, an empty field or a partial number.
+    bool ReadExactNumber(int id, double& value) const;
+    // Refuses what a field holds: the message, then the focus back on the field with its text
+    // selected, so that the user can type over it.
+    void RefuseField(int id, const std::string& message);
+    // A number as a field shows it: at most six significant digits, no trailing zeros.
+    static std::string FormatNumber(double value);
 };

@@ -185,6 +185,87 @@ DialogTemplate AstroDialogTemplates::StopAnimation()
     return t;
 }
 
+// The star display dialogs.
+
+// A placeholder of a star sample: a black frame whose place the sample window takes.
+static DialogItemTemplate SamplePlace(int id, int x, int y)
+{
+    Item place = Item::Label("", id, x, y, 37, 25);
+    place.Style = WS_CHILD | WS_VISIBLE | SS_BLACKFRAME;
+    return place;
+}
+
+DialogTemplate AstroDialogTemplates::StarDisplay()
+{
+    DialogTemplate t = Frame("STID_STAR_TITLE_STAR_DISPLAY", 321, 207);
+    t.Items.push_back(Item::Label("STID_STAR_LABEL_MAGNITUDE", -1, 7, 10, 150, 8));
+    t.Items.push_back(Item::Edit(0x6e, 160, 7, 40, 14));
+    t.Items.push_back(Item::Label("STID_STAR_LABEL_SHAPE", -1, 7, 30, 150, 8));
+    t.Items.push_back(Item::ListBox(0x6a, 160, 27, 60, 26));
+    t.Items.push_back(Item::CheckBox("STID_STAR_CKBX_DISPLAY_LABELS", 0x69, 7, 62, 200, 10));
+    t.Items.push_back(Item::Label("STID_STAR_LABEL_LABEL", 0x76, 19, 80, 138, 8));
+    t.Items.push_back(Item::Edit(0x6c, 160, 77, 40, 14));
+    t.Items.push_back(Item::PushButton("STID_STAR_BTN_MODIFY_SIZES", 0x74, 7, 100, 70, 14));
+    t.Items.push_back(Item::PushButton("STID_STAR_BTN_MODIFY_INTENSITY", 0x75, 83, 100, 70, 14));
+    // The row of samples: the magnitudes above, the stars below.
+    t.Items.push_back(Item::Label("STID_STAR_LABEL_STAROFMAGNITUDE", -1, 7, 128, 80, 8));
+    t.Items.push_back(Item::Label("STID_STAR_LABEL_WILLLOOKLIKE", -1, 7, 148, 80, 8));
+    for (int i = 0; i < 4; ++i) {
+        const int x = 92 + i * 42;
+        t.Items.push_back(Item::Label("", 0x77 + i, x, 128, 37, 8, SS_CENTER));
+        t.Items.push_back(SamplePlace(0x70 + i, x, 140));
+    }
+    t.Items.push_back(Item::PushButton("@STID_BTN_DEFAULT_SETTINGS", 0x6f, 7, 186, 80, 14));
+    AddButtonColumn(t);
+    return t;
+}
+
+// The two rows of a range dialog: for the dimmer stars and for the brighter ones, each with
+// its magnitude, its sample and its slider; OK and Cancel below.
+static DialogTemplate StarRange(const char* title, int width, int height, const char* sameText,
+                                const char* sliderText)
+{
+    DialogTemplate t = Frame(title, width, height);
+    const struct
+    {
+        const char* Label;
+        int Magnitude;
+        int Sample;
+        int Slider;
+    } rows[] = {
+        {"STID_STAR_EDBX_DIMMERTHANMAG", 0x66, 100, 0x65},
+        {"STID_STAR_EDBX_BRIGHTERTHANMAG", 0x69, 0x67, 0x68},
+    };
+    const int rowHeight = (height - 30) / 2;
+    int y = 7;
+    for (const auto& row : rows) {
+        t.Items.push_back(Item::Label(row.Label, -1, 7, y, 100, 8));
+        t.Items.push_back(Item::Edit(row.Magnitude, 7, y + 10, 40, 14));
+        t.Items.push_back(Item::Label(sameText, -1, 7, y + 30, 100, 18));
+        t.Items.push_back(SamplePlace(row.Sample, width - 105, y + 12));
+        t.Items.push_back(Item::Label(sliderText, -1, width - 67, y, 60, 8, SS_CENTER));
+        t.Items.push_back(Item::ScrollBar(row.Slider, width - 43, y + 10, 11, rowHeight - 22));
+        y += rowHeight;
+    }
+    t.Items.push_back(
+        Item::PushButton("@STID_BTN_OK", IDOK, width - 111, height - 21, 50, 14, true));
+    t.Items.push_back(
+        Item::PushButton("@STID_BTN_CANCEL", IDCANCEL, width - 57, height - 21, 50, 14));
+    return t;
+}
+
+DialogTemplate AstroDialogTemplates::StarSizeRange()
+{
+    return StarRange("STID_STAR_TITLE_SIZE_SETTINGS", 220, 170, "STID_STAR_EDBX_WILLBESAMESIZE",
+                     "STID_STAR_SB_SIZE");
+}
+
+DialogTemplate AstroDialogTemplates::StarIntensityRange()
+{
+    return StarRange("STID_STAR_TITLE_INTENSE_SETTINGS", 215, 178,
+                     "STID_STAR_EDBX_WILLBESAMEINTENSE", "STID_STAR_SB_INTENSITY");
+}
+
 void AstroDialogTemplates::Register()
 {
     static const bool registered = [] {
@@ -195,6 +276,9 @@ void AstroDialogTemplates::Register()
         AddDialogResource(TResId(kObjectInfo), ObjectInfo());
         AddDialogResource(TResId(kLocation), Location());
         AddDialogResource(TResId(kStopAnimation), StopAnimation());
+        AddDialogResource(TResId(kStarDisplay), StarDisplay());
+        AddDialogResource(TResId(kStarSizeRange), StarSizeRange());
+        AddDialogResource(TResId(kStarIntensityRange), StarIntensityRange());
         return true;
     }();
     (void)registered;

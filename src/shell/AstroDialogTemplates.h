@@ -15,6 +15,9 @@ public:
     static constexpr int kAnimation = 300;
     static constexpr int kGrid = 400;
     static constexpr int kObjectList = 1100;
+    static constexpr int kStarDisplay = 1300;
+    static constexpr int kStarSizeRange = 1350;
+    static constexpr int kStarIntensityRange = 1400;
     static constexpr int kObjectInfo = 1450;
     static constexpr int kLocation = 1500;
     static constexpr int kStopAnimation = 1750;
@@ -29,6 +32,9 @@ public:
     static DialogTemplate ObjectInfo();
     static DialogTemplate Location();
     static DialogTemplate StopAnimation();
+    static DialogTemplate StarDisplay();
+    static DialogTemplate StarSizeRange();
+    static DialogTemplate StarIntensityRange();
 
     // Adds all of them to the module's resources; later calls do nothing.
     static void Register();

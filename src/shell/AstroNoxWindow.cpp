@@ -30,6 +30,7 @@
 #include "shell/GridDialog.h"
 #include "shell/LocationDialog.h"
 #include "shell/ObjectListDialog.h"
+#include "shell/StarDisplayDialog.h"
 #include "shell/StopAnimationDialog.h"
 #include "shell/TimeDialog.h"
 #include "skyview/AstroPrintDialog.h"
@@ -142,6 +143,7 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         CmRow<kCmLocateSun, &AstroNoxWindow::CmLocateSun>(),
         CmRow<kCmLocateMoon, &AstroNoxWindow::CmLocateMoon>(),
         CmRow<kCmDumpTimeZoneNames, &AstroNoxWindow::CmDumpTimeZoneNames>(),
+        CmRow<kCmDisplayStars, &AstroNoxWindow::CmDisplayStars>(),
     };
     const TResponseRow* row = table.Find(event);
     return row ? row : TLayoutWindow::Find(event);
@@ -659,6 +661,16 @@ void AstroNoxWindow::CmDumpTimeZoneNames()
     if (file.OpenForWriting((directory + "/" + kTimeZoneDumpFile).c_str())) {
         TimeZone::PrintAllTimeZoneNames(file);
     }
+}
+
+void AstroNoxWindow::CmDisplayStars()
+{
+    StarDisplayDialog dialog(DialogParent(), pMap->GetDisplayParameters());
+    if (dialog.Execute() != IDOK) {
+        return;
+    }
+    pMap->SetStarDisplayParameters(dialog.GetStarDisplayParameters());
+    SaveAsDefaultState();
 }
 
 void AstroNoxWindow::SetBusy(bool busy)

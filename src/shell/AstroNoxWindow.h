@@ -23,7 +23,8 @@
 // The commands of the host's menu each end in an operation of the map or in a dialog. A
 // cancelled dialog changes nothing. The default state is written after a new place and after
 // the toggles of constellations, planet labels, comets and Messier objects; the time, the
-// grid, the time lapse and the horizon clipping are not kept.
+// grid, the time lapse and the horizon clipping are not kept. The star settings are kept after
+// the star display dialog's OK.
 #include <string>
 
 #include "catalogues/AstroCatalogue.h"
@@ -72,6 +73,7 @@ public:
     static constexpr UINT kCmLocateSun = 25027;
     static constexpr UINT kCmLocateMoon = 25028;
     static constexpr UINT kCmDumpTimeZoneNames = 25032;
+    static constexpr UINT kCmDisplayStars = 25011;
     // The file, in the user's configuration directory, that the zone names are written to.
     static constexpr const char* kTimeZoneDumpFile = "TimeZoneDump.txt";
     // The word of the planetarium's bookmarks and icon in the host.
@@ -142,6 +144,9 @@ public:
     void CmLocateMoon();
     // Writes the names of all time zones to kTimeZoneDumpFile.
     void CmDumpTimeZoneNames();
+    // The star display dialog on the map's star settings; OK takes them and keeps them as the
+    // default.
+    void CmDisplayStars();
 
     // The wait cursor while busy, the arrow otherwise.
     void SetBusy(bool busy);

@@ -5,6 +5,7 @@
 #include "host/HostWindowStrings.h"
 #include "platform/DialogTemplate.h"
 #include "platform/WindowCalls.h"
+#include "shell/StarDisplayDialog.h"
 
 namespace {
 
@@ -59,6 +60,7 @@ const TResponseRow* AstroPrintDialog::Find(const TEventInfo& event) const
 {
     static const TResponseTable table{
         CmRow<kPrintId, &AstroPrintDialog::CmPrint>(),
+        CmRow<kModifyStarsId, &AstroPrintDialog::CmModifyStars>(),
         CmRow<kHelpId, &AstroPrintDialog::CmHelp>(),
     };
     const TResponseRow* row = table.Find(event);
@@ -80,11 +82,6 @@ void AstroPrintDialog::SetupWindow()
             Preview.Show(SW_SHOW);
         }
     }
-    // Changing the stars of the chart needs the star display dialog, which this program
-    // does not have yet.
-    if (TWindow* stars = GetControl(kModifyStarsId)) {
-        stars->EnableWindow(false);
-    }
     replaceHostChildWindowStrings(kStringTable, HWindow);
 }
 
@@ -93,6 +90,15 @@ void AstroPrintDialog::CmPrint()
     SetCursor(nullptr, TResId(IDC_WAIT));
     Preview.Print();
     SetCursor(nullptr, TResId(IDC_ARROW));
+}
+
+void AstroPrintDialog::CmModifyStars()
+{
+    StarDisplayDialog dialog(this, Preview.GetDisplayParameters());
+    if (dialog.Execute() == IDOK) {
+        Preview.SetStarDisplayParameters(dialog.GetStarDisplayParameters());
+        Preview.Invalidate();
+    }
 }
 
 void AstroPrintDialog::CmHelp()

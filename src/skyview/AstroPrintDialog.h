@@ -1,6 +1,7 @@
 #pragma once
 // The dialog of the printed star chart: the preview of the page, and buttons to print it,
-// to change how its stars look, for help, and to close.
+// to change how its stars look (which leaves the map's own stars as they are), for help, and
+// to close.
 //
 // Building the dialog brings up the platform's print dialog first (through the preview
 // window); when the user cancels there, HasPrinter is false and the caller does not run this
@@ -28,6 +29,9 @@ public:
     // Places the preview over its placeholder and puts words in the controls.
     void SetupWindow() override;
     void CmPrint();
+    // The star display dialog on the chart's star settings; OK takes them for the chart alone
+    // and redraws the preview.
+    void CmModifyStars();
     void CmHelp();
     const TResponseRow* Find(const TEventInfo& event) const override;
 

@@ -54,7 +54,7 @@ bool Earth200::ApplyNutation(RectCoord& rect)
 
 double Earth200::SiderealHours(double mjd, double westLongitude)
 {
-    const double mjd0 = std::trunc(mjd);
+    const double mjd0 = std::floor(mjd);
     const double ut = (mjd - mjd0) * 24.0;
     const double tc = (mjd0 - 51544.5) / 36525.0;
     // Greenwich mean sidereal time, hours.
@@ -71,7 +71,7 @@ DegreeAngle Earth200::GetLocalSiderealTime(const LatLong& location)
 
 DegreeAngle Earth200::GetMidnightSiderealTime(const LatLong& location)
 {
-    const AstroTime midnight(std::trunc(time.GetMJD()), false);
+    const AstroTime midnight(std::floor(time.GetMJD()), false);
     const double hours = SiderealHours(midnight.GetMJD(), location.GetLongitude().GetDegrees());
     return HoursMinutesSeconds(hours, 0.0, 0.0).GetDegreeAngle();
 }

@@ -135,3 +135,17 @@ TEST(Star, LabelIsThePopularNameOfABrightStarInWhite)
     EXPECT_EQ(vega.GetLabel(canvas.Parameters)->GetText(), "Vega");
     EXPECT_EQ(vega.GetLabel(canvas.Parameters)->GetColor(), TColor::White);
 }
+
+TEST(Star, TheInformationHeadingNamesTheStarAndItsNumberOnlyWhenItHasOne)
+{
+    const std::tuple<std::uint32_t, const char*, const char*> rows[] = {
+        {151881, "Sirius", "Sirius (SAO151881)"},
+        {42, nullptr, "SAO42"},
+        {0, "Toliman", "Toliman"},
+        {0, nullptr, "Star at RA: 14h 39m 36.0s   Dec: - 60\xB0 50' 02.4\""},
+    };
+    for (const auto& [sao, name, heading] : rows) {
+        const Star star(sao, 1.35, PolarCoord(219.9, -60.834), name ? name : "");
+        EXPECT_EQ(star.GetInfoName(), heading) << heading;
+    }
+}

@@ -6,6 +6,7 @@
 #include "shell/AnimationDialog.h"
 #include "shell/ObjectInfoDialog.h"
 #include "shell/ObjectListDialog.h"
+#include "shell/StarDisplayDialog.h"
 #include "solar/PlanetCatalogue.h"
 #include "solar/PlanetView.h"
 
@@ -30,14 +31,16 @@ TEST_F(AstroDialogs, ShowTheirWordsAndOpenTheHelpTopicOfTheProfile)
         std::make_unique<GridDialog>(nullptr, GridInfo()),
         std::make_unique<ObjectListDialog>(nullptr, collector, AstroCatalogue::PLANETS),
         std::make_unique<ObjectInfoDialog>(nullptr, *planets.GetObjectByName("Mars")),
-        std::make_unique<LocationDialog>(nullptr)};
+        std::make_unique<LocationDialog>(nullptr),
+        std::make_unique<StarDisplayDialog>(nullptr, StarDisplayParameters())};
     const std::pair<const char*, const char*> topics[] = {
         {"TimeDialogHelpKey", "Planetarium"},
         {"AnimationDialogHelpKey", "Time Lapse"},
         {"GridDialogHelpKey", "Ascension/Declination Lines"},
         {"ObjectListDialogHelpKey", "Planetarium"},
         {"ObjectInfoDialogHelpKey", "Planetarium"},
-        {"LocationDialogHelpKey", "Planetarium"}};
+        {"LocationDialogHelpKey", "Planetarium"},
+        {"StarDisplayDialogHelpKey", "Star Display"}};
     for (std::size_t i = 0; i < std::size(topics); ++i) {
         const auto& [profileKey, topic] = topics[i];
         for (const char* expected : {topic, "Running Time"}) {

@@ -69,13 +69,13 @@ TEST(Earth200, SiderealTimes)
     // Mean sidereal times in hours. 2000 January 1, 12h, at longitudes 0, 15 west and 15 east
     // (345 west): the published values. 1987 April 10 at 19h 21m UT at Greenwich, and at the
     // midnight before: Meeus, Astronomical Algorithms, examples 12.b (8h 34m 57.0896s) and
-    // 12.a (13h 10m 46.3668s).
+    // 12.a (13h 10m 46.3668s). 1856 February 15 at 18h UT, before MJD 0, whose midnight is
+    // still the one before it: Meeus's formula 12.4 at both times.
     const std::tuple<double, double, double, double> cases[] = {
         // MJD, longitude west, local and midnight sidereal time
-        {51544.5, 0.0, 18.6973746, 6.6645196},
-        {51544.5, 15.0, 17.6973746, 5.6645196},
-        {51544.5, 345.0, 19.6973746, 7.6645196},
-        {46895.80625, 0.0, 8.5825249, 13.1795463},
+        {51544.5, 0.0, 18.6973746, 6.6645196},   {51544.5, 15.0, 17.6973746, 5.6645196},
+        {51544.5, 345.0, 19.6973746, 7.6645196}, {46895.80625, 0.0, 8.5825249, 13.1795463},
+        {-1000.25, 0.0, 3.9911314, 9.9418491},
     };
     for (const auto& [mjd, west, local, midnight] : cases) {
         Earth200 earth;

@@ -185,9 +185,10 @@ TEST_F(Dialogs, EnterPressesTheDefaultButtonTabMovesTheFocusEscapeCancels)
         Desk().PressKey(VK_TAB);
         Desk().KeyUp(VK_SHIFT);
         EXPECT_EQ(GetFocus(), field);
-        Desk().Type("\r");
+        Desk().Type("7\r"); // the first character after a Tab is kept
     });
     EXPECT_EQ(dialog.Execute(), IDOK);
+    EXPECT_EQ(dialog.Year, "7");
     Desk().AnswerNextModal([](TWindow& window) {
         Desk().PressKey(VK_ESCAPE);
         EXPECT_FALSE(window.IsWindowVisible()) << "Escape itself closed it";
