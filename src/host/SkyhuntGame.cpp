@@ -262,7 +262,7 @@ Constellation* SkyhuntGame::ChooseConstellation()
 
 void SkyhuntGame::Answer(const PolarCoord& clicked)
 {
-    const double apart = DegreesApart(clicked, pAnswer->GetCenter());
+    const double apart = DegreesFromAnswer(clicked);
     const bool near = apart <= kNearDegrees;
     if (near) {
         ++nScore;
@@ -291,6 +291,15 @@ void SkyhuntGame::Answer(const PolarCoord& clicked)
     Sky.SetConstellationSettings(ConstellationSettings(true, false, true));
     Sky.ShowConstellation(pAnswer->GetName());
     Sky.BlinkObject(*pAnswer);
+}
+
+double SkyhuntGame::DegreesFromAnswer(const PolarCoord& sky) const
+{
+    double nearest = DegreesApart(sky, pAnswer->GetCenter());
+    for (const PolarCoord& star : pAnswer->GetFigurePoints()) {
+        nearest = std::min(nearest, DegreesApart(sky, star));
+    }
+    return nearest;
 }
 
 void SkyhuntGame::SayScore()

@@ -4,10 +4,10 @@
 //
 // A round is five questions. Each names a well-known constellation that stands at least 30
 // degrees above the horizon; the player clicks on the sky where they think it is. The game
-// says near (the click within 12 degrees of the constellation's centre, a point) or far, with
-// the distance; a mark fades in where the player clicked, the map turns to the constellation
-// with the figures shown and the right one blinking, and the next click asks the next
-// question. After the fifth the score stands until a click starts a new round.
+// says near (the click within 12 degrees of the constellation's centre or of a star of its
+// figure, a point) or far, with the distance; a mark fades in where the player clicked, the map
+// turns to the constellation with the figures shown and the right one blinking, and the next click
+// asks the next question. After the fifth the score stands until a click starts a new round.
 //
 // The sky is that of the map's first view: over San Francisco, now when it is dark there and
 // else at the next sunset, seen with the zenith in the middle and 70 degrees to the nearer
@@ -43,7 +43,9 @@ public:
         "Pisces",      "Sagittarius", "Scorpius", "Taurus",
         "Ursa Major",  "Ursa Minor",  "Virgo",    "Lepus"};
     static constexpr int kQuestionsPerRound = 5;
-    // A click this near the centre of the constellation asked for scores, in degrees.
+    // A click this near the centre of the constellation asked for, or a star of its figure,
+    // scores, in degrees. The figure's stars count as well so that a click on the head of a long
+    // constellation such as Hydra is near, although its centre lies 40 degrees away.
     static constexpr double kNearDegrees = 12.0;
     // Only constellations whose centre is at most this far from the zenith are asked for.
     static constexpr double kHighestZenithDistance = 60.0;
@@ -98,6 +100,8 @@ private:
     // Puts the next question, with the sky back as it is for asking.
     void Ask();
     void Answer(const PolarCoord& clicked);
+    // Degrees from `sky` to the nearer of the answer's centre and the stars of its figure.
+    double DegreesFromAnswer(const PolarCoord& sky) const;
     // A constellation of the list that is up and not asked yet this round, or null.
     Constellation* ChooseConstellation();
     void SayScore();

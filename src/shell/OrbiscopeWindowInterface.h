@@ -7,7 +7,8 @@
 // The map is a child window of `parent`: the window tree owns it and destroys it with the
 // parent, so the handle must not be used after that. It opens with the map's own first view:
 // from San Francisco, looking east 30 degrees up, 20 degrees to the nearer edge of the field,
-// now when it is dark there and else at the next sunset. Nothing is read from or written to the user's saved state.
+// now when it is dark there and else at the next sunset. Nothing is read from or written to the
+// user's saved state.
 //
 // A null parent makes no map: GetWindow() is then null, the operations do nothing and the
 // getters answer the defaults of their types. Angles are degrees and times Universal Time, as

@@ -55,12 +55,22 @@ protected:
         }
         return nullptr;
     }
-    // A point of the sky on the screen at least 30 degrees from `sky`.
-    TPoint FarFrom(const PolarCoord& sky)
+    // Degrees from `sky` to the constellation: to its centre or the nearest star of its figure.
+    static double Nearest(const Constellation& c, const PolarCoord& sky)
     {
-        for (TPoint p : {TPoint(150, 300), TPoint(650, 300), TPoint(400, 60), TPoint(400, 540)}) {
+        double nearest = Apart(sky, c.GetCenter());
+        for (const PolarCoord& star : c.GetFigurePoints()) {
+            nearest = std::min(nearest, Apart(sky, star));
+        }
+        return nearest;
+    }
+    // A point of the sky on the screen at least 30 degrees from the constellation.
+    TPoint FarFrom(const Constellation& c)
+    {
+        for (TPoint p : {TPoint(150, 300), TPoint(650, 300), TPoint(400, 60), TPoint(400, 540),
+                         TPoint(60, 60), TPoint(740, 540), TPoint(740, 60), TPoint(60, 540)}) {
             PolarCoord there;
-            if (Map().MapWindowPointToPolarCoord(p, there) && Apart(there, sky) > 30.0) {
+            if (Map().MapWindowPointToPolarCoord(p, there) && Nearest(c, there) > 30.0) {
                 return p;
             }
         }
@@ -116,7 +126,15 @@ TEST_F(SkyhuntGameTest, EveryConstellationTheGameAsksForIsInTheCatalogueOnce)
 
 TEST_F(SkyhuntGameTest, ARoundOfFiveIsScoredNearOrFarAndAClickStartsTheNext)
 {
-    const bool nearClicks[SkyhuntGame::kQuestionsPerRound] = {true, false, true, false, true};
+    // Where the player clicks for each question: on the centre, far off, or on the star of the
+    // figure that is furthest from the centre, which is near too.
+    enum Where
+    {
+        Centre,
+        Far,
+        FigureStar
+    };
+    const Where clicks[SkyhuntGame::kQuestionsPerRound] = {Centre, Far, FigureStar, Far, Centre};
     const COLORREF figure = RGB(0, 255, 0);
     const TPoint middle(400, 300);
     std::set<std::string> asked;
@@ -132,16 +150,27 @@ TEST_F(SkyhuntGameTest, ARoundOfFiveIsScoredNearOrFarAndAClickStartsTheNext)
                   "Question " + std::to_string(i + 1) + " of 5   Score " + std::to_string(score));
 
         TPoint target;
-        ASSERT_TRUE(nearClicks[i] ? PointOf(answer->GetCenter(), target) : true);
-        if (!nearClicks[i]) {
-            target = FarFrom(answer->GetCenter());
+        const bool near = clicks[i] != Far;
+        if (clicks[i] == Centre) {
+            ASSERT_TRUE(PointOf(answer->GetCenter(), target));
+        } else if (clicks[i] == Far) {
+            target = FarFrom(*answer);
+        } else {
+            double furthest = 0.0;
+            for (const PolarCoord& star : answer->GetFigurePoints()) {
+                TPoint p;
+                if (PointOf(star, p) && Apart(star, answer->GetCenter()) > furthest) {
+                    furthest = Apart(star, answer->GetCenter());
+                    target = p;
+                }
+            }
+            ASSERT_GT(furthest, SkyhuntGame::kNearDegrees) << "a star of the figure far out";
         }
         PolarCoord clicked;
         ASSERT_TRUE(Map().MapWindowPointToPolarCoord(target, clicked));
         ClickAt(target);
-        score += nearClicks[i];
-        EXPECT_EQ(pGame->GetPrompt().rfind((nearClicks[i] ? "Near! " : "Far: ") + name + " is ", 0),
-                  0u);
+        score += near;
+        EXPECT_EQ(pGame->GetPrompt().rfind((near ? "Near! " : "Far: ") + name + " is ", 0), 0u);
         EXPECT_EQ(pGame->GetScoreText(),
                   "Question " + std::to_string(i + 1) + " of 5   Score " + std::to_string(score));
 
