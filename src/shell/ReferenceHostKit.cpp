@@ -8,6 +8,7 @@
 
 #include "host/HostFrameAPI.h"
 #include "host/HostFrameWindow.h"
+#include "host/SkyhuntGame.h"
 #include "platform/PngFile.h"
 #include "platform/Surface.h"
 #include "platform/TPrintDC.h"
@@ -202,17 +203,30 @@ void DestroyFrame(std::uint32_t handle)
     Frames().erase(found);
 }
 
+int StartSkyhunt()
+{
+    return StartSkyhuntGame() ? 1 : 0;
+}
+
 void CloseDesktop()
 {
+    CloseSkyhuntGame();
     // The headless desktop takes the place of any other, which closes it.
     WindowSystem::Get().SetBackend(std::make_unique<HeadlessBackend>());
     SetHostFrameAPI(nullptr);
 }
 
-const OrbiscopeHostKit kKit{
-    kOrbiscopeHostKitVersion, &OpenDesktop,    &CreateFrame,  &GetMapInset,  &SetView,
-    &SaveMapPicture,          &RunMessageLoop, &DestroyFrame, &CloseDesktop, &PrintChart,
-};
+const OrbiscopeHostKit kKit{kOrbiscopeHostKitVersion,
+                            &OpenDesktop,
+                            &CreateFrame,
+                            &GetMapInset,
+                            &SetView,
+                            &SaveMapPicture,
+                            &RunMessageLoop,
+                            &DestroyFrame,
+                            &CloseDesktop,
+                            &PrintChart,
+                            &StartSkyhunt};
 
 } // namespace
 

@@ -6,8 +6,8 @@
 // system in the library serves both the host's frame and the component inside it. It looks
 // this table up by the name orbiscope_host_kit and calls through it: open a desktop (the
 // display, or the headless one for pictures), make a frame window, set a view on the map,
-// save the map as a picture or print it as a chart, run the message loop. The table speaks plain C;
-// window handles are the 32-bit numbers the entry returns.
+// save the map as a picture or print it as a chart, start the sky game, run the message loop.
+// The table speaks plain C; window handles are the 32-bit numbers the entry returns.
 #include <cstddef>
 #include <cstdint>
 
@@ -78,9 +78,12 @@ struct OrbiscopeHostKit
     // 1, at 300 pixels per inch. 0 when that fails (no such window, a file that cannot be
     // written).
     int (*PrintChart)(std::uint32_t component, const char* path, int paper);
+    // Opens the sky game in a window of its own (or brings it to the front); 0 when it cannot
+    // be made. The game ends with its window, and with the message loop when it is the last.
+    int (*StartSkyhunt)(void);
 };
 
-inline constexpr int kOrbiscopeHostKitVersion = 3;
+inline constexpr int kOrbiscopeHostKitVersion = 4;
 
 const OrbiscopeHostKit* orbiscope_host_kit(void);
 

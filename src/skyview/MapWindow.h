@@ -226,6 +226,7 @@ public:
     void Scroll(const AstroScrollInfo& info);
     void ContinueScrolling();
     void StopScrolling();
+    bool IsScrolling() const { return bScrolling; }
     // Brings an object into view. Before the first draw the object waits for it. An object
     // below the horizon brings questions: to see it rise (the time moves), or, for one that
     // never rises or when the view may sink below the horizon, to see where it is now.
@@ -361,6 +362,9 @@ public:
 
     // What the map holds.
     const AstroTime& GetTime() const { return Time; }
+    // The map's own time object: writing through it bypasses the flags of SetTime, so the
+    // next draw that runs for another reason shows the new time.
+    AstroTime& GetTime() { return Time; }
     const TimeZone& GetTimeZone() const { return Zone; }
     void SetTimeZone(const TimeZone& zone) { Zone = zone; }
     const GridInfo& GetGridInfo() const { return Grid; }
@@ -387,6 +391,14 @@ public:
     const std::string& GetStatusText() const { return StatusText; }
     // The horizon's screen points of the last draw that drew it.
     const std::vector<TPoint>& GetHorizonPoints() const { return HorizonPoints; }
+
+    // The next draw asks for every object anew, although the view did not change: for
+    // objects added or removed from outside. Raises no flag.
+    void ForceReload() { bForceReload = true; }
+    // Redraws the frame at once although nothing in the view changed (a blink step, the end of
+    // a scroll, an object that changed its looks): the status flag is the cheapest one that
+    // makes the paint draw.
+    void RedrawNow();
 
     // The flags, for those who wait on a draw.
     bool IsTimeDirty() const { return bTimeDirty; }
@@ -418,9 +430,6 @@ private:
     static double HorizonReach(double fromZenith, double visibleRadius);
     // Asks the user a yes-no question; true for yes.
     bool AskYesNo(const std::string& text, const std::string& caption);
-    // Redraws the frame at once although nothing in the view changed (a blink step, the end of
-    // a scroll): the status flag is the cheapest one that makes the paint draw.
-    void RedrawNow();
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};
