@@ -3,14 +3,16 @@
 //   orbiscope [COMMAND]                  the planetarium in a window on the display
 //   orbiscope render --out FILE [...]    one picture of the sky, made without a display
 //   orbiscope print --out FILE [...]     a printed star chart as a PDF, made without a display
+//   orbiscope skyhunt                    the sky game in a window on the display
 //   orbiscope --help | --version
 //
 // The program links nothing of the component. It loads liborbiscope.so at run time (the file
-// named by ORBISCOPE_LIBRARY, else the one beside the program, else the one of the build
-// tree), looks up the entry `orbiscope` and the host kit, makes a frame window, hands the
-// entry the frame and the command string, and runs the message loop; or, for `render`, lets
-// one frame be drawn on the headless desktop and writes the map to a PNG file; or, for
-// `print`, prints the chart of the view there into a PDF file.
+// named by ORBISCOPE_LIBRARY, else the one beside the program, else the one in the lib folder
+// of the program's installation, else the one of the build tree), looks up the entry
+// `orbiscope` and the host kit, makes a frame window, hands the entry the frame and the
+// command string, and runs the message loop; or, for `render`, lets one frame be drawn on the
+// headless desktop and writes the map to a PNG file; or, for `print`, prints the chart of the
+// view there into a PDF file.
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -93,6 +95,10 @@ void PrintUsage(std::FILE* out)
         "        --time, --center, --location, --look, --radius, --grid, --limit\n"
         "                          the view, as for render\n"
         "\n"
+        "  orbiscope skyhunt\n"
+        "      Plays the sky game in a window on the display: find the constellation it\n"
+        "      names on a bare sky map, five to a round.\n"
+        "\n"
         "  orbiscope --help       this text\n"
         "  orbiscope --version    the version\n"
         "\n"
@@ -135,6 +141,7 @@ std::optional<Component> LoadComponent(std::string& error)
         std::string beside = ProgramDirectory();
         if (!beside.empty()) {
             candidates.push_back(beside + "/liborbiscope.so");
+            candidates.push_back(beside + "/" + ORBISCOPE_INSTALLED_LIBRARY);
         }
         candidates.push_back(ORBISCOPE_BUILD_LIBRARY);
     }
@@ -489,7 +496,7 @@ int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
         std::fprintf(stderr, "orbiscope %s: %s\n", command, reason);
         return kExitFailure;
     }
-    if (!kit.CheckCommand(request.Command.c_str(), reason, sizeof reason)) {
+    if (!kit.CheckCommand(request.Command.c_str(), &request.View, reason, sizeof reason)) {
         std::fprintf(stderr, "orbiscope %s: cannot use the command string: %s\n", command,
                      reason);
         return kExitUsage;
@@ -593,7 +600,7 @@ int RunOnDisplay(const std::vector<std::string>& args)
     char missing[1024] = {};
     const bool data = kit.CheckData(missing, sizeof missing) != 0;
     char reason[1024] = {};
-    if (data && !kit.CheckCommand(command.c_str(), reason, sizeof reason)) {
+    if (data && !kit.CheckCommand(command.c_str(), nullptr, reason, sizeof reason)) {
         std::fprintf(stderr, "orbiscope: cannot use the command string: %s\n", reason);
         return kExitUsage;
     }
@@ -630,6 +637,36 @@ int RunOnDisplay(const std::vector<std::string>& args)
     return status;
 }
 
+// `orbiscope skyhunt`: the sky game alone, without the planetarium's frame.
+int RunSkyhunt()
+{
+    if (!HasDisplay()) {
+        std::fprintf(stderr, "orbiscope skyhunt: the sky game needs a display (neither DISPLAY "
+                             "nor WAYLAND_DISPLAY is set)\n");
+        return kExitFailure;
+    }
+    std::string error;
+    std::optional<Component> component = LoadComponent(error);
+    if (!component) {
+        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
+        return kExitFailure;
+    }
+    const OrbiscopeHostKit& kit = *component->Kit;
+    char reason[256] = {};
+    if (!kit.OpenDesktop(1, reason, sizeof reason)) {
+        std::fprintf(stderr, "orbiscope skyhunt: cannot open the display: %s\n", reason);
+        return kExitFailure;
+    }
+    int status = kExitFailure;
+    if (kit.StartSkyhunt()) {
+        status = kit.RunMessageLoop();
+    } else {
+        std::fprintf(stderr, "orbiscope skyhunt: the game did not start\n");
+    }
+    kit.CloseDesktop();
+    return status;
+}
+
 // The distance of two words in letters put in, left out or changed.
 std::size_t EditDistance(const std::string& a, const std::string& b)
 {
@@ -653,13 +690,13 @@ std::size_t EditDistance(const std::string& a, const std::string& b)
 int UnknownCommand(const std::string& word)
 {
     std::string guess;
-    for (const char* known : {"render", "print"}) {
+    for (const char* known : {"render", "print", "skyhunt"}) {
         if (EditDistance(word, known) <= 2) {
             guess = std::string(" (did you mean ") + known + "?)";
         }
     }
     std::fprintf(stderr,
-                 "orbiscope: unknown command \"%s\"%s; the commands are render and print, and "
+                 "orbiscope: unknown command \"%s\"%s; the commands are render, print and skyhunt, and "
                  "a command string holds key=value words (see orbiscope --help)\n",
                  word.c_str(), guess.c_str());
     return kExitUsage;
@@ -685,6 +722,13 @@ int main(int argc, char** argv)
     if (!args.empty() && args[0] == "print") {
         return MakeWithoutDisplay(std::vector<std::string>(args.begin() + 1, args.end()),
                                   Making::Chart);
+    }
+    if (!args.empty() && args[0] == "skyhunt") {
+        if (args.size() > 1) {
+            std::fprintf(stderr, "orbiscope skyhunt takes nothing more (see orbiscope --help)\n");
+            return kExitUsage;
+        }
+        return RunSkyhunt();
     }
     if (!args.empty() && args[0].rfind("--", 0) == 0) {
         std::fprintf(stderr, "orbiscope: unknown option %s\n\n", args[0].c_str());

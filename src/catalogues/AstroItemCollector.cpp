@@ -112,6 +112,23 @@ StarCatalogue* AstroItemCollector::GetStarCatalogue()
     return pDefaultCatalogue;
 }
 
+AstroCatalogue* AstroItemCollector::GetCatalogue(AstroCatalogue::AstroCatalogues which)
+{
+    switch (which) {
+    case AstroCatalogue::STARS:
+        return GetStarCatalogue();
+    case AstroCatalogue::PLANETS:
+        return &Planets;
+    case AstroCatalogue::MESSIER_OBJECTS:
+        return &MessierObjects;
+    case AstroCatalogue::CONSTELLATIONS:
+        return &Constellations;
+    case AstroCatalogue::COMETS:
+        return &Comets;
+    }
+    return nullptr;
+}
+
 StarCatalogue* AstroItemCollector::ChooseStarCatalogue(Request& request)
 {
     if (pUserCatalogue != nullptr) {

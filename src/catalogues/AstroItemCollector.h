@@ -55,6 +55,9 @@ public:
 
     // The catalogue that name and number lookups use: the one chosen for magnitude 5.
     StarCatalogue* GetStarCatalogue();
+    // The catalogue of one kind, the stars' being GetStarCatalogue (null without star files);
+    // null for a value that is no single kind.
+    AstroCatalogue* GetCatalogue(AstroCatalogue::AstroCatalogues which);
     // The catalogue for a request: the user's, the last request's when the limiting magnitude
     // is the same, otherwise the choice by limiting magnitude, which the request keeps.
     StarCatalogue* ChooseStarCatalogue(Request& request);

@@ -196,7 +196,7 @@ void Constellation::DrawCenter(TDC& dc, const Transformation& t)
     }
 }
 
-void Constellation::DrawFigures(TDC& dc, const Transformation& t)
+void Constellation::DrawFigures(TDC& dc, const Transformation& t, int lineWidth)
 {
     if (FigurePoints.empty()) {
         pCatalogue->LoadFigureInfo();
@@ -205,7 +205,7 @@ void Constellation::DrawFigures(TDC& dc, const Transformation& t)
         return;
     }
     const SkyRange visible = t.GetVisibleRange();
-    dc.SelectObject(TPen(kFigureColor, 1, PS_SOLID));
+    dc.SelectObject(TPen(kFigureColor, lineWidth, PS_SOLID));
     TPoint first;
     TPoint second;
     for (std::size_t i = 0; i + 1 < FigurePoints.size(); i += 2) {
@@ -223,7 +223,7 @@ void Constellation::DrawFigures(TDC& dc, const Transformation& t)
     dc.RestorePen();
 }
 
-void Constellation::DrawBoundaries(TDC& dc, const Transformation& t)
+void Constellation::DrawBoundaries(TDC& dc, const Transformation& t, int lineWidth)
 {
     if (BoundaryPoints.empty()) {
         pCatalogue->LoadBoundaryInfo();
@@ -232,7 +232,7 @@ void Constellation::DrawBoundaries(TDC& dc, const Transformation& t)
     if (count < 2) {
         return;
     }
-    dc.SelectObject(TPen(kBoundaryColor, 1, PS_SOLID));
+    dc.SelectObject(TPen(kBoundaryColor, lineWidth, PS_SOLID));
     const SkyRange visible = t.GetVisibleRange();
 
     // Edge by edge round the polygon and back to the first point. The first point counts as
@@ -307,8 +307,9 @@ Label* Constellation::GetLabel(DisplayParameters& parameters)
         return nullptr;
     }
     FontRef* font = ConstellationSettings::GetLabelFontRef(*parameters.pDC);
-    if (!pLabel || pLabel->GetFontRef() != font) {
-        pLabel = std::make_unique<Label>(Name, *this, *font, pCatalogue->GetSettings().LabelColor);
+    const TColor color = parameters.GetTextColor(pCatalogue->GetSettings().LabelColor);
+    if (!pLabel || pLabel->GetFontRef() != font || pLabel->GetColor() != color) {
+        pLabel = std::make_unique<Label>(Name, *this, *font, color);
     }
     TPoint point;
     if (!parameters.pTransformation->Translate(GetLabelPosition(), point)) {
@@ -325,10 +326,10 @@ void Constellation::Draw(TDC& dc, DisplayParameters& parameters)
     }
     const ConstellationSettings& settings = pCatalogue->GetSettings();
     if (settings.bShowFigures) {
-        DrawFigures(dc, *parameters.pTransformation);
+        DrawFigures(dc, *parameters.pTransformation, parameters.GetLineWidth());
     }
     if (settings.bShowBoundaries) {
-        DrawBoundaries(dc, *parameters.pTransformation);
+        DrawBoundaries(dc, *parameters.pTransformation, parameters.GetLineWidth());
     }
 }
 

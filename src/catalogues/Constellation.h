@@ -64,10 +64,11 @@ public:
 
     // A 5 by 5 pixel light yellow square on the centre, when the centre is in view.
     void DrawCenter(TDC& dc, const Transformation& t);
-    // The figure's lines in green, each line with an end in the visible range and in view.
-    void DrawFigures(TDC& dc, const Transformation& t);
+    // The figure's lines in green, each line with an end in the visible range and in view;
+    // lines are `lineWidth` pixels wide, as wide as lines are on paper.
+    void DrawFigures(TDC& dc, const Transformation& t, int lineWidth = 1);
     // The boundary in red: every edge with an end in view.
-    void DrawBoundaries(TDC& dc, const Transformation& t);
+    void DrawBoundaries(TDC& dc, const Transformation& t, int lineWidth = 1);
 
     // The abbreviation's first 3 bytes (zeros after a shorter one), the number of points as
     // 4 little-endian bytes, then each point's RA and Dec as 8-byte doubles. False at the first

@@ -2,6 +2,7 @@
 
 #include "platform/TDC.h"
 #include "platform/TFont.h"
+#include "skyview/DisplayParameters.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ SharedMark& Mark()
 
 } // namespace
 
-void CrossMark::Draw(TDC& dc, const TPoint& centre)
+void CrossMark::Draw(TDC& dc, const TPoint& centre, const DisplayParameters& parameters)
 {
     SharedMark& mark = Mark();
     dc.SelectObject(mark.Font);
@@ -38,7 +39,7 @@ void CrossMark::Draw(TDC& dc, const TPoint& centre)
                              (extent.cy - int(metrics.tmDescent)) / 2);
         mark.bMeasured = true;
     }
-    dc.SetTextColor(TColor::LtYellow);
+    dc.SetTextColor(parameters.GetTextColor(TColor::LtYellow));
     dc.SetBkMode(TRANSPARENT);
     dc.TextOut(centre - mark.Offset, kMark);
     dc.RestoreFont();

@@ -197,11 +197,12 @@ Label* Messier::GetLabel(DisplayParameters& parameters)
         return nullptr;
     }
     FontRef* font = LabelFont(*parameters.pDC);
-    if (pLabel && pLabel->GetFontRef() != font) {
+    const TColor color = parameters.GetTextColor(TColor::LtYellow);
+    if (pLabel && (pLabel->GetFontRef() != font || pLabel->GetColor() != color)) {
         pLabel.reset();
     }
     if (!pLabel) {
-        pLabel = std::make_unique<Label>(GetCodeName(), *this, *font, TColor::LtYellow);
+        pLabel = std::make_unique<Label>(GetCodeName(), *this, *font, color);
     }
     return pLabel.get();
 }
@@ -211,9 +212,9 @@ std::uint32_t Messier::GetUid() const
     return kUidBase + kUidOffset + Number;
 }
 
-void Messier::Draw(TDC& dc, DisplayParameters& /*parameters*/)
+void Messier::Draw(TDC& dc, DisplayParameters& parameters)
 {
-    CrossMark::Draw(dc, DisplayPoint);
+    CrossMark::Draw(dc, DisplayPoint, parameters);
 }
 
 std::string Messier::GetListName() const

@@ -284,13 +284,15 @@ Label* Star::GetLabel(DisplayParameters& parameters)
         return nullptr;
     }
     FontRef* font = StarDisplayParameters::GetLabelFontRef(*parameters.pDC);
-    if (pLabel && type == nLabelType && pLabel->GetFontRef() == font) {
+    // A printer of the screen's resolution shares the font, so the colour is part of the key.
+    const TColor color = parameters.GetTextColor(TColor::White);
+    if (pLabel && type == nLabelType && pLabel->GetFontRef() == font &&
+        pLabel->GetColor() == color) {
         return pLabel.get();
     }
     pLabel.reset();
     if (type == StarDisplayParameters::kPopularNameLabels && pName) {
-        pLabel = std::make_unique<Label>(*pName, *this, *font,
-                                         parameters.IsPrinting() ? TColor::Black : TColor::White);
+        pLabel = std::make_unique<Label>(*pName, *this, *font, color);
     }
     nLabelType = type;
     return pLabel.get();

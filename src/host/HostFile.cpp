@@ -2,11 +2,13 @@
 
 #include <cstdlib>
 #include <dirent.h>
+#include <dlfcn.h>
 #include <sys/stat.h>
 #include <vector>
 
 #include "catalogues/LorvString.h"
 #include "host/LittleEndian.h"
+#include "platform/DebugStream.h"
 
 namespace {
 
@@ -58,11 +60,44 @@ const char* ModeText(HostFile::OpenMode mode)
 std::string HostFile::DataDirectory()
 {
     const char* fromEnvironment = std::getenv("ORBISCOPE_DATA");
-    std::string dir = (fromEnvironment && *fromEnvironment) ? fromEnvironment : ORBISCOPE_DATA_DIR;
+    std::string dir =
+        (fromEnvironment && *fromEnvironment) ? fromEnvironment : InstalledDataDirectory();
+    if (dir.empty()) {
+        dir = ORBISCOPE_DATA_DIR;
+    }
     while (dir.size() > 1 && dir.back() == '/') {
         dir.pop_back();
     }
     return dir;
+}
+
+std::string HostFile::InstalledDataDirectory()
+{
+    // Looked for once: the library does not move while it is loaded.
+    static const std::string installed = [] {
+        Dl_info info{};
+        if (::dladdr(reinterpret_cast<void*>(&HostFile::InstalledDataDirectory), &info) == 0 ||
+            !info.dli_fname) {
+            return std::string();
+        }
+        const std::string object = info.dli_fname;
+        const std::size_t slash = object.rfind('/');
+        const std::string relative =
+            (slash == std::string::npos ? std::string(".") : object.substr(0, slash)) + "/" +
+            ORBISCOPE_DATA_FROM_LIBRARY;
+        char* resolved = ::realpath(relative.c_str(), nullptr);
+        if (!resolved) {
+            return std::string();
+        }
+        const std::string candidate = resolved;
+        std::free(resolved);
+        if (!Exists(candidate + "/strings.txt")) {
+            return std::string();
+        }
+        dbstream << "HostFile: the data directory is " << candidate << dbendl;
+        return candidate;
+    }();
+    return installed;
 }
 
 void HostFile::ResolvePath(std::string& path, bool logical, bool /*mustExist*/)

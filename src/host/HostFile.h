@@ -4,7 +4,9 @@
 // ResolvePath turns the logical prefixes "ed:\" and "cd:\win32\" into the data directory,
 // backslashes into slashes, and finds each part of the path whatever the case of its name,
 // so that "ed:\STRINGS.TXT" opens data/strings.txt. The data directory is $ORBISCOPE_DATA
-// when set, otherwise the one the build was configured with.
+// when set; otherwise that of the installation the component was loaded from (share/orbiscope
+// beside the library's lib folder), so that an installed program needs no environment; and
+// otherwise the one the build was configured with.
 #include <cstdint>
 #include <cstdio>
 #include <string>
@@ -58,6 +60,9 @@ public:
     static void ResolvePath(std::string& path, bool logical = true, bool mustExist = false);
     // The directory the logical prefixes stand for, without a trailing slash.
     static std::string DataDirectory();
+    // The data folder of the installation that holds the component's code, or "" when the code
+    // was not loaded from an installation (a program of the build tree).
+    static std::string InstalledDataDirectory();
 
 private:
     std::FILE* pFile = nullptr;

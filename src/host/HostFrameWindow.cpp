@@ -1,7 +1,8 @@
 #include "host/HostFrameWindow.h"
 
+#include "catalogues/LorvString.h"
 #include "host/HostBookmark.h"
-#include "host/HostMessages.h"
+#include "host/SkyhuntGame.h"
 #include "platform/DebugStream.h"
 
 HostFrameWindow::HostFrameWindow(const char* title, int width, int height) : TWindow(nullptr, title)
@@ -18,7 +19,7 @@ const TResponseRow* HostFrameWindow::Find(const TEventInfo& event) const
 {
     static const TResponseTable table{
         EvRow<WM_SIZE, &HostFrameWindow::EvSize>(),
-        MsgRow<kHostStartModule, &HostFrameWindow::WmuStartModule>(),
+        MsgRow<kStartModuleMessage, &HostFrameWindow::WmuStartModule>(),
     };
     const TResponseRow* row = table.Find(event);
     return row ? row : TWindow::Find(event);
@@ -34,17 +35,13 @@ void HostFrameWindow::EvSize(UINT sizeType, TSize& size)
     }
 }
 
-LRESULT HostFrameWindow::WmuStartModule(WPARAM, LPARAM request)
+LRESULT HostFrameWindow::WmuStartModule(WPARAM, LPARAM bookmark)
 {
-    if (!request) {
-        return 0;
+    const auto* request = reinterpret_cast<const HostBookmark*>(bookmark);
+    if (request && EqualNoCase(request->Command, "skyhunt")) {
+        return StartSkyhuntGame() ? 1 : 0;
     }
-    const auto& bookmark = *reinterpret_cast<const HostBookmark*>(request);
-    if (!StartModule) {
-        dbstream << "HostFrameWindow: no module to start for \"" << bookmark.Command << "\""
-                 << dbendl;
-        return 0;
-    }
-    StartModule(bookmark);
-    return 1;
+    dbstream << "HostFrameWindow: no module for \"" << (request ? request->Command : "") << "\""
+             << dbendl;
+    return 0;
 }

@@ -306,8 +306,12 @@ void HostMainFrame::DoCommand(UINT command)
         }
         return;
     case kFinderCommand:
-        // The finder shows only in full-screen mode.
-        SetFullScreen(true);
+        // The finder shows only in full-screen mode, where the module brings it up by itself;
+        // in that mode the command shows or hides it, as its menu entry does.
+        if (!bFullScreen) {
+            SetFullScreen(true);
+            return;
+        }
         break;
     default:
         break;

@@ -1,6 +1,7 @@
 #include "platform/PrintDocument.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -112,17 +113,28 @@ PrintDocument::~PrintDocument()
 
 int PrintDocument::StartDoc(const std::string& name, const std::string& output)
 {
-    if (IsInDocument() || output.empty()) {
+    if (IsInDocument()) {
+        Error = "a document is already open";
         return SP_ERROR;
     }
+    if (output.empty()) {
+        Error = "no file to print to";
+        return SP_ERROR;
+    }
+    // cairo opens the file at once; the system's reason survives it in errno.
+    errno = 0;
     auto cairo = std::make_unique<Cairo>();
     cairo->pSurface = cairo_pdf_surface_create(output.c_str(), Printer.GetPaperWidthPoints(),
                                                Printer.GetPaperHeightPoints());
     if (cairo_surface_status(cairo->pSurface) != CAIRO_STATUS_SUCCESS) {
-        dbstream << "PrintDocument: cannot write " << output << ": "
-                 << cairo_status_to_string(cairo_surface_status(cairo->pSurface)) << dbendl;
+        const int reason = errno;
+        Error = "cannot write " + output + ": " +
+                (reason != 0 ? std::strerror(reason)
+                             : cairo_status_to_string(cairo_surface_status(cairo->pSurface)));
+        dbstream << "PrintDocument: " << Error << dbendl;
         return SP_ERROR;
     }
+    Error.clear();
     cairo_pdf_surface_set_metadata(cairo->pSurface, CAIRO_PDF_METADATA_TITLE, Utf8Of(name).c_str());
     cairo_pdf_surface_set_metadata(cairo->pSurface, CAIRO_PDF_METADATA_CREATOR, "Orbiscope");
     pCairo = std::move(cairo);
@@ -173,8 +185,8 @@ int PrintDocument::EndDoc()
     const cairo_status_t status = cairo_surface_status(pCairo->pSurface);
     CloseCairo();
     if (status != CAIRO_STATUS_SUCCESS) {
-        dbstream << "PrintDocument: " << OutputFile << ": " << cairo_status_to_string(status)
-                 << dbendl;
+        Error = "cannot finish " + OutputFile + ": " + cairo_status_to_string(status);
+        dbstream << "PrintDocument: " << Error << dbendl;
         return SP_ERROR;
     }
     return 1;

@@ -33,6 +33,8 @@ public:
     bool IsInPage() const { return bInPage; }
     int GetPageCount() const { return nPages; }
     const std::string& GetOutputFile() const { return OutputFile; }
+    // Why the document could not be started or finished, in words; empty when it could.
+    const std::string& GetError() const { return Error; }
 
     // Text is kept only while a page is open.
     bool KeepsText() const { return bInPage; }
@@ -53,4 +55,5 @@ private:
     bool bInPage = false;
     int nPages = 0;
     std::string OutputFile;
+    std::string Error;
 };

@@ -97,6 +97,9 @@ void TDC::SelectObject(const TFont& font)
     if (!OrgFont) {
         OrgFont = Font;
     }
+    // Looked up in the font given, so that a font selected again and again (a label's) finds
+    // its face once, not at every selection.
+    font.GetInstance();
     Font = font;
 }
 
@@ -265,6 +268,17 @@ TSize TDC::SetViewportExt(const TSize& extent)
 bool TDC::IsScaled() const
 {
     return WindowExt != ViewportExt;
+}
+
+int TDC::DevicePenWidth() const
+{
+    const int width = Pen.GetWidth();
+    if (!IsScaled() || width <= 1) {
+        return width;
+    }
+    // A pen's width is in logical units, as its lines are; however thin it becomes it still
+    // draws one pixel.
+    return std::max(1, int(MulDiv(width, std::abs(ViewportExt.cx), std::abs(WindowExt.cx))));
 }
 
 // Logical coordinates to surface pixels: the mapping, then the origin of the device area.
@@ -445,7 +459,7 @@ bool TDC::DrawLineTo(const TPoint& from, const TPoint& to)
     }
     Raster raster(*pSurface, DeviceClip());
     raster.WideLine(ToDevice(from.x, from.y), ToDevice(to.x, to.y), ValueOf(Pen.GetColor()),
-                    Pen.GetWidth(), false);
+                    DevicePenWidth(), false);
     return true;
 }
 
@@ -583,7 +597,7 @@ bool TDC::DrawFigure(const ShapeSpans& shape, Figure figure, TPoint start, TPoin
         }
     };
     shape.ForEachRun(
-        Pen.GetWidth(),
+        DevicePenWidth(),
         [&](int y, ShapeSpans::Run run) {
             if (pen) {
                 paint(y, run, penValue);
@@ -614,7 +628,7 @@ bool TDC::DrawFigure(const ShapeSpans& shape, Figure figure, TPoint start, TPoin
                 continue;
             }
             TPoint rim(clampX(cx + vx / length), clampY(cy + vy / length));
-            raster.WideLine(centre, rim, penValue, Pen.GetWidth(), true);
+            raster.WideLine(centre, rim, penValue, DevicePenWidth(), true);
         }
     }
     return true;

@@ -223,6 +223,8 @@ protected:
 
 private:
     bool IsScaled() const;
+    // The pen's width in device pixels: scaled with the mapping across, at least 1.
+    int DevicePenWidth() const;
     // Device coordinates are kept within a billion pixels of the origin, so that no sum of
     // them overflows.
     TPoint ToDevice(long long x, long long y) const;

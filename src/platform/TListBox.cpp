@@ -38,11 +38,17 @@ void TListBox::SetupWindow()
     TControl::SetupWindow();
     if ((Attr.Style & WS_VSCROLL) && !pScrollBar) {
         int width = ControlLook::GetMetric(SM_CXVSCROLL);
-        pScrollBar =
-            new TScrollBar(this, kScrollBarId, Attr.W - 1 - width, 1, width, Attr.H - 2, false);
+        pScrollBar = MakeScrollBar(TRect(Attr.W - 1 - width, 1, Attr.W - 1, Attr.H - 1));
         pScrollBar->Create();
     }
     UpdateScrollBar();
+}
+
+TScrollBar* TListBox::MakeScrollBar(const TRect& place)
+{
+    // A child: the window tree owns it.
+    return new TScrollBar(this, kScrollBarId, place.left, place.top, place.Width(), place.Height(),
+                          false);
 }
 
 int TListBox::GetCount() const
@@ -528,6 +534,9 @@ void TListBox::Paint(TDC& dc, bool, TRect&)
 {
     TColor background =
         PrepareColors(dc, WM_CTLCOLORLISTBOX, TColor(ControlLook::GetColor(COLOR_WINDOW)));
+    if (pMaster) {
+        background = pMaster->GetListBackground(background);
+    }
     TRect client = GetClientRect();
     dc.FillRect(client, TBrush(background));
     if (Attr.Style & WS_BORDER) {

@@ -69,6 +69,9 @@ public:
 protected:
     // Selects a row as the user does: scrolls to it and tells the parent when it changed.
     void UserSelect(int index);
+    // The scroll bar of a list with WS_VSCROLL, a child of the list at that place; a plain
+    // upright bar by default.
+    virtual TScrollBar* MakeScrollBar(const TRect& place);
 
 private:
     struct Item

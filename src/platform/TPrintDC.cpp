@@ -83,6 +83,11 @@ const std::string& TPrintDC::GetOutputFile() const
     return pDocument->GetOutputFile();
 }
 
+const std::string& TPrintDC::GetError() const
+{
+    return pDocument->GetError();
+}
+
 const std::vector<TextRun>& TPrintDC::GetTextRuns() const
 {
     return pDocument->GetTextRuns();

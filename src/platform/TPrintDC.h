@@ -53,6 +53,9 @@ public:
     int GetPageCount() const;
     // The file of the present or last document.
     const std::string& GetOutputFile() const;
+    // Why the last document could not be started or finished ("cannot write chart.pdf: No
+    // such file or directory"); empty when it could.
+    const std::string& GetError() const;
     // The text of the present page, in the order it was drawn.
     const std::vector<TextRun>& GetTextRuns() const;
     // The document, shared by the contexts that print it.

@@ -277,11 +277,19 @@ LRESULT TScrollBar::DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
     }
 }
 
+void TScrollBar::SetTrackColor(const TColor& color)
+{
+    TrackColor = color;
+    Invalidate();
+}
+
 void TScrollBar::Paint(TDC& dc, bool, TRect&)
 {
     PrepareColors(dc, WM_CTLCOLORSCROLLBAR, TColor(ControlLook::GetColor(COLOR_SCROLLBAR)));
     TRect r = GetClientRect();
-    dc.FillRect(r, TBrush(ControlLook::GetColor(COLOR_SCROLLBAR)));
+    dc.FillRect(r, TBrush(TrackColor != TColor::None
+                              ? TrackColor
+                              : TColor(ControlLook::GetColor(COLOR_SCROLLBAR))));
     int arrow = ArrowSize();
     bool enabled = IsWindowEnabled() && HighestPosition() > Info.nMin;
     COLORREF glyph = enabled ? RGB(96, 96, 96) : RGB(191, 191, 191);

@@ -24,6 +24,9 @@ public:
     int SetScrollInfo(const SCROLLINFO& info, bool redraw = true);
     // Fills what the mask of `info` asks for.
     void GetScrollInfo(SCROLLINFO& info) const;
+    // The colour of the track behind the arrows and the thumb; TColor::None for the standard
+    // one.
+    void SetTrackColor(const TColor& color);
 
     LRESULT DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam) override;
     void Paint(TDC& dc, bool erase, TRect& rect) override;
@@ -52,6 +55,7 @@ private:
     TRect Along(int start, int end) const;
 
     SCROLLINFO Info{sizeof(SCROLLINFO), 0, 0, 100, 0, 0, 0};
+    TColor TrackColor = TColor::None;
     Part Pressed = Part::None;
     int nGrab = 0;
     bool bRepeating = false;

@@ -28,11 +28,18 @@ double TurnedRA(double ra, double degrees)
     return v;
 }
 
-// Holds a sine or cosine that rounding pushed past 1 at +-1, with a message.
+// How far past 1 rounding alone takes a sine or cosine made of a few products and a quotient:
+// some ulps, well under this.
+constexpr double kRoundingExcess = 1e-12;
+
+// Holds a sine or cosine past 1 at +-1. Only an excess beyond rounding is reported: a view
+// whose axis passes through a pole meets the rounding one on every draw.
 double ClampUnit(double value, const char* message)
 {
     if (value > 1.0 || value < -1.0) {
-        dbstream << message << value << dbendl;
+        if (std::fabs(value) > 1.0 + kRoundingExcess) {
+            dbstream << message << value << dbendl;
+        }
         return value >= 0.0 ? 1.0 : -1.0;
     }
     return value;

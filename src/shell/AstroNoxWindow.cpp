@@ -34,6 +34,7 @@
 #include "projection/RotatingOrientationInfo.h"
 #include "shell/AnimationDialog.h"
 #include "shell/AstroMenuTemplates.h"
+#include "shell/AstroFinderWindow.h"
 #include "shell/GridDialog.h"
 #include "shell/LocationDialog.h"
 #include "shell/ObjectListDialog.h"
@@ -42,6 +43,7 @@
 #include "shell/TimeDialog.h"
 #include "skyview/AstroPrintDialog.h"
 #include "skyview/AstroStatusWindow.h"
+#include "skyview/DirectionWindow.h"
 #include "skyview/MapWindow.h"
 #include "solar/PlanetCatalogue.h"
 #include "solar/PlanetOptions.h"
@@ -71,8 +73,6 @@ constexpr double kWidestField = 90.0;
 constexpr int kTitleFontHeight = 13;
 constexpr short kHostStringTable = 1;
 constexpr short kExitFullScreenString = 0x0C82;
-// The finder's command, whose entry of the display fly-out shows only in full-screen mode.
-constexpr UINT kFinderCommand = 25014;
 
 // A check mark of the fly-out menu.
 UINT Checked(bool on)
@@ -82,8 +82,10 @@ UINT Checked(bool on)
 
 // The status panel's font: 8 points, neither bold nor fixed.
 constexpr int kStatusFontPoints = 8;
-// A side panel takes this share of the window's width, in per cent.
+// A side panel takes this share of the window's width, in per cent; beside the status panel
+// the finder reaches to twice that.
 constexpr int kSidePanelPercent = 20;
+constexpr int kFinderBesideStatusPercent = 40;
 // The gap at the left of a lone side panel is this fraction of the window's width.
 constexpr int kSideMarginDivisor = 60;
 
@@ -135,6 +137,8 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         EvRow<WM_SIZE, &AstroNoxWindow::EvSize>(),
         EvRow<WM_ERASEBKGND, &AstroNoxWindow::EvEraseBkgnd>(),
         MsgRow<kReferenceMessage, &AstroNoxWindow::WmuObjectSelected>(),
+        MsgRow<kFieldChangeMessage, &AstroNoxWindow::WmuFieldChange>(),
+        MsgRow<kObjectSelectedFromListMessage, &AstroNoxWindow::WmuObjectSelectedFromList>(),
         MsgRow<kNewBookmarkMessage, &AstroNoxWindow::WmuNewBookmark>(),
         MsgRow<kCreateBookmarkMessage, &AstroNoxWindow::WmuCreateBookmark>(),
         MsgRow<kCapabilityMessage, &AstroNoxWindow::WmuCapability>(),
@@ -158,6 +162,7 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         CmRow<kCmDisplayRADecLines, &AstroNoxWindow::CmDisplayRADecLines>(),
         CmRow<kCmDisplayMessierLabels, &AstroNoxWindow::CmDisplayMessierLabels>(),
         CmRow<kCmDisplayBelowHorizon, &AstroNoxWindow::CmDisplayBelowHorizon>(),
+        CmRow<kCmDisplayLocatorControls, &AstroNoxWindow::CmDisplayLocatorControls>(),
         CmRow<kCmLocateConstellations, &AstroNoxWindow::CmLocateConstellations>(),
         CmRow<kCmLocatePlanets, &AstroNoxWindow::CmLocatePlanets>(),
         CmRow<kCmLocateStars, &AstroNoxWindow::CmLocateStars>(),
@@ -201,26 +206,43 @@ void AstroNoxWindow::Paint(TDC& dc, bool, TRect& rect)
 
 void AstroNoxWindow::LayoutWindows(const TSize& size)
 {
-    // The map is set in by the bezel on every side; a side panel stands at the left, a fifth
-    // of the width, and the map begins a gap and the bezel right of it.
+    // The map is set in by the bezel on every side; side windows stand at the left, and the
+    // map begins a gap and the bezel right of the last of them.
     const int gap = FrameMetric(kHostMetricBezelGap);
     const int bezel = FrameMetric(kHostMetricBezelWidth);
     const int margin = size.cx / kSideMarginDivisor;
-    if (pStatus) {
-        TLayoutMetrics side;
-        GetChildLayoutMetrics(*pStatus, side);
-        side.SetMeasurementUnits(lmPixels);
-        side.X.Set(lmLeft, lmRightOf, lmParent, lmLeft, margin);
-        side.Y.Set(lmTop, lmSameAs, lmParent, lmTop, 0);
-        side.Width.Set(lmWidth, lmPercentOf, lmParent, lmRight, kSidePanelPercent);
-        side.Height.Set(lmBottom, lmSameAs, lmParent, lmBottom, 0);
-        SetChildLayoutMetrics(*pStatus, side);
+    auto placeSide = [this](TWindow& side, TWindow* leftOf, int leftMargin, TEdge widthEdge,
+                            TRelationship relation, int widthValue) {
+        TLayoutMetrics metrics;
+        GetChildLayoutMetrics(side, metrics);
+        metrics.SetMeasurementUnits(lmPixels);
+        metrics.X.Set(lmLeft, lmRightOf, leftOf, leftOf ? lmRight : lmLeft, leftMargin);
+        metrics.Y.Set(lmTop, lmSameAs, lmParent, lmTop, 0);
+        metrics.Width.Set(widthEdge, relation, lmParent, relation == lmAbsolute ? lmWidth : lmRight,
+                          widthValue);
+        metrics.Height.Set(lmBottom, lmSameAs, lmParent, lmBottom, 0);
+        SetChildLayoutMetrics(side, metrics);
+    };
+    TWindow* side = nullptr;
+    if (pStatus && pFinder) {
+        placeSide(*pStatus, lmParent, 0, lmRight, lmPercentOf, kSidePanelPercent);
+        placeSide(*pFinder, pStatus, 0, lmRight, lmPercentOf, kFinderBesideStatusPercent);
+        side = pFinder;
+    } else if (pStatus || pFinder) {
+        side = pStatus ? static_cast<TWindow*>(pStatus) : pFinder;
+        // The finder is never narrower than its catalogue names need.
+        const int desired = pFinder ? AstroFinderWindow::GetDesiredWidth() : 0;
+        if (desired * 100 > size.cx * kSidePanelPercent) {
+            placeSide(*side, lmParent, margin, lmWidth, lmAbsolute, desired);
+        } else {
+            placeSide(*side, lmParent, margin, lmWidth, lmPercentOf, kSidePanelPercent);
+        }
     }
     TLayoutMetrics map;
     GetChildLayoutMetrics(*pMap, map);
     map.SetMeasurementUnits(lmPixels);
-    if (pStatus) {
-        map.X.Set(lmLeft, lmRightOf, pStatus, lmRight, gap + bezel);
+    if (side) {
+        map.X.Set(lmLeft, lmRightOf, side, lmRight, gap + bezel);
     } else {
         map.X.Set(lmLeft, lmRightOf, lmParent, lmLeft, bezel);
     }
@@ -230,8 +252,18 @@ void AstroNoxWindow::LayoutWindows(const TSize& size)
     SetChildLayoutMetrics(*pMap, map);
 }
 
+bool AstroNoxWindow::IsFullScreen()
+{
+    TWindow* parent = GetParentO();
+    return parent && parent->HWindow && parent->SendMessage(kFullScreenQuery, 0, 0) == 1;
+}
+
 void AstroNoxWindow::EvSize(UINT sizeType, TSize& size)
 {
+    // The host's change of mode arrives as a change of size: the finder follows it.
+    if (GetParentO()) {
+        SetFinderWindowState(IsFullScreen());
+    }
     LayoutWindows(size);
     TLayoutWindow::EvSize(sizeType, size);
     Invalidate();
@@ -353,6 +385,20 @@ LRESULT AstroNoxWindow::WmuCreateBookmark(WPARAM, LPARAM)
     return reinterpret_cast<LRESULT>(new HostBookmark(kBookmarkType, title, command));
 }
 
+LRESULT AstroNoxWindow::WmuFieldChange(WPARAM, LPARAM)
+{
+    UpdateDirectionWindow();
+    return 0;
+}
+
+LRESULT AstroNoxWindow::WmuObjectSelectedFromList(WPARAM, LPARAM object)
+{
+    if (object) {
+        pMap->ShowObject(*reinterpret_cast<AstroObject*>(object));
+    }
+    return 0;
+}
+
 LRESULT AstroNoxWindow::WmuObjectSelected(WPARAM, LPARAM reference)
 {
     HostFrameAPI* frame = getHostFrameAPI();
@@ -364,9 +410,9 @@ LRESULT AstroNoxWindow::WmuObjectSelected(WPARAM, LPARAM reference)
 
 StateContainer& AstroNoxWindow::operator<<(StateContainer& sc) const
 {
-    // The finder is not part of this window yet.
     return sc << NewLevel << AstroKey("MapWindow") << *pMap << AstroKey("DisplayStatusWindow")
-              << (pStatus != nullptr) << AstroKey("DisplayFinderWindow") << false << EndLevel;
+              << (pStatus != nullptr) << AstroKey("DisplayFinderWindow") << (pFinder != nullptr)
+              << EndLevel;
 }
 
 StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
@@ -377,6 +423,11 @@ StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
         status >> AstroKey("DisplayFinderWindow") >> finder >> EndLevel;
     SetMessierObjectsDisplay(pMap->IsShowingMessier());
     SetStatusWindowState(status);
+    // The finder exists only in the host's full-screen mode.
+    if (GetParentO() && !IsFullScreen()) {
+        finder = false;
+    }
+    SetFinderWindowState(finder);
     if (HWindow) {
         LayoutWindows(GetClientRect().Size());
         Layout();
@@ -448,11 +499,6 @@ LRESULT AstroNoxWindow::AskHost(UINT message)
     return host && host->HWindow ? host->SendMessage(message) : 0;
 }
 
-bool AstroNoxWindow::IsHostFullScreen()
-{
-    return AskHost(kHostFullScreenQuery) == 1;
-}
-
 LRESULT AstroNoxWindow::WmuLoadFlyMenu(WPARAM, LPARAM)
 {
     if (auto* titleBar = reinterpret_cast<HostTitleBar*>(AskHost(kHostTitleBarQuery))) {
@@ -479,7 +525,7 @@ void AstroNoxWindow::LoadFlyoutMenu()
     TMenu menu(GetModule(), TResId(AstroMenuTemplates::kMainMenu));
     replaceHostMenuStrings(kStringTable, menu);
     fly->InitEntries(menu, 0, 0);
-    if (IsHostFullScreen()) {
+    if (IsFullScreen()) {
         fly->Change(kHostFullScreenCommand, 0, kHostExitFullScreenCommand,
                     getHostString(kHostStringTable, kExitFullScreenString));
     }
@@ -515,10 +561,9 @@ void AstroNoxWindow::CmDisplayFlyout()
     sub->SetCheckMark(kCmDisplayPlanets,
                       Checked(pMap->GetCollector().GetPlanetCatalogue().GetOptions().bShowLabels));
     sub->SetCheckMark(kCmDisplayBelowHorizon, Checked(!pMap->IsClippedAtHorizon()));
-    // The finder is not part of this window yet: its entry is never checked.
-    sub->SetCheckMark(kFinderCommand, Checked(false));
-    if (!IsHostFullScreen()) {
-        sub->Delete(kFinderCommand, 0);
+    sub->SetCheckMark(kCmDisplayLocatorControls, Checked(pFinder != nullptr));
+    if (!IsFullScreen()) {
+        sub->Delete(kCmDisplayLocatorControls, 0);
     }
     sub->Display(TPoint(HostFlyMenu::kBesideEntry, HostFlyMenu::kBesideEntry));
 }
@@ -563,11 +608,22 @@ void AstroNoxWindow::SetStatusWindowState(bool on)
     } else {
         // The map lets go of the panel before it goes; its blocks leave the panel with it.
         pMap->DetachStatusWindow();
-        AstroStatusWindow* going = pStatus;
-        pStatus = nullptr;
-        going->Destroy();
-        delete going;
+        DeleteSideWindow(pStatus);
     }
+    SideWindowsChanged();
+}
+
+template <class Side>
+void AstroNoxWindow::DeleteSideWindow(Side*& side)
+{
+    Side* going = side;
+    side = nullptr;
+    going->Destroy();
+    delete going;
+}
+
+void AstroNoxWindow::SideWindowsChanged()
+{
     if (HWindow) {
         LayoutWindows(GetClientRect().Size());
         Layout();
@@ -584,6 +640,44 @@ void AstroNoxWindow::CreateStatusWindow()
     if (HWindow) {
         pStatus->Create();
     }
+}
+
+void AstroNoxWindow::SetFinderWindowState(bool on)
+{
+    if (on == (pFinder != nullptr)) {
+        return;
+    }
+    if (on) {
+        CreateFinderWindow();
+        UpdateDirectionWindow();
+    } else {
+        DeleteSideWindow(pFinder);
+    }
+    SideWindowsChanged();
+}
+
+void AstroNoxWindow::CreateFinderWindow()
+{
+    // A child: the window tree owns it.
+    pFinder =
+        new AstroFinderWindow(this, this, &pMap->GetCollector(), kObjectSelectedFromListMessage);
+    if (HWindow) {
+        pFinder->Create();
+    }
+}
+
+void AstroNoxWindow::UpdateDirectionWindow()
+{
+    if (pFinder) {
+        pFinder->GetDirectionWindow().Set(*pMap);
+    }
+}
+
+void AstroNoxWindow::CmDisplayLocatorControls()
+{
+    SetFinderWindowState(pFinder == nullptr);
+    LayoutWindows(GetClientRect().Size());
+    Layout();
 }
 
 void AstroNoxWindow::SetMessierObjectsDisplay(bool show)
@@ -722,6 +816,9 @@ void AstroNoxWindow::CmDisplayConstellationFigures()
     settings.bShowFigures = !settings.bShowFigures;
     pMap->SetConstellationSettings(settings);
     SaveAsDefaultState();
+    if (pFinder) {
+        pFinder->UpdateOutlineButton();
+    }
 }
 
 void AstroNoxWindow::CmDisplayConstellationLabels()

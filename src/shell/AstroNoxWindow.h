@@ -18,7 +18,10 @@
 // It is written only after changes that say so, and only once the map has a location name.
 //
 // Beside the map may stand the status panel (time, orientation, Moon), a fifth of the window
-// wide at the left; a bookmark says whether it shows.
+// wide at the left; a bookmark says whether it shows. The finder (AstroFinderWindow) stands
+// there too, but only while the host shows the component full screen: it comes with that mode
+// and goes with it, the menu's command shows or hides it meanwhile, and a bookmark asks for it
+// in that mode alone. With both, the status panel takes the left fifth and the finder the next.
 //
 // The commands of the host's menu each end in an operation of the map or in a dialog. A
 // cancelled dialog changes nothing. The default state is written after a new place and after
@@ -31,6 +34,7 @@
 #include "platform/TLayoutWindow.h"
 
 class AstroItemCollector;
+class AstroFinderWindow;
 class AstroStatusWindow;
 class HostBookmark;
 class HostFlyMenu;
@@ -46,6 +50,10 @@ public:
     static constexpr UINT kCreateBookmarkMessage = 0x061E;
     static constexpr UINT kReferenceMessage = 0x07E8;
     static constexpr UINT kFieldChangeMessage = 0x07EA;
+    // The finder's message: an object chosen from its list.
+    static constexpr UINT kObjectSelectedFromListMessage = 0x07E9;
+    // The question to the host whether it shows the component full screen (answer 1).
+    static constexpr UINT kFullScreenQuery = 0x0615;
     // Commands: the component's print command, and the host's own.
     static constexpr UINT kPrintCommand = 25006;
     static constexpr UINT kHostPrintCommand = 7211;
@@ -67,6 +75,7 @@ public:
     static constexpr UINT kCmDisplayRADecLines = 25012;
     static constexpr UINT kCmDisplayMessierLabels = 25013;
     static constexpr UINT kCmDisplayBelowHorizon = 25015;
+    static constexpr UINT kCmDisplayLocatorControls = 25014;
     static constexpr UINT kCmLocateConstellations = 25016;
     static constexpr UINT kCmLocatePlanets = 25017;
     static constexpr UINT kCmLocateStars = 25018;
@@ -182,8 +191,9 @@ public:
     bool IsBusy() const { return bBusy; }
     void UpdateCursor();
 
-    // Sets the layout of the map and the panel for a client area of that size: the map
-    // inside the frame's bezel, right of the panel when there is one. TLayoutWindow::Layout
+    // Sets the layout of the map and the side windows for a client area of that size: the map
+    // inside the frame's bezel, right of the side windows. A lone side window is a fifth of
+    // the width, or, for the finder, as wide as it needs when that is more. TLayoutWindow::Layout
     // then moves them there.
     void LayoutWindows(const TSize& size);
 
@@ -193,6 +203,18 @@ public:
     void CreateStatusWindow();
     // The panel; a child of this window, null while there is none.
     AstroStatusWindow* GetStatusWindow() const { return pStatus; }
+
+    // Makes the finder or takes it away, so that it exists exactly when `on`; a new finder's
+    // direction window shows the map's view at once.
+    void SetFinderWindowState(bool on);
+    // A new finder, sending its chosen objects with kObjectSelectedFromListMessage.
+    void CreateFinderWindow();
+    // The finder; a child of this window, null while there is none.
+    AstroFinderWindow* GetFinderWindow() const { return pFinder; }
+    // Shows the map's view in the finder's direction window.
+    void UpdateDirectionWindow();
+    // Shows the finder when there is none, hides it otherwise.
+    void CmDisplayLocatorControls();
 
     // Handlers.
     void EvSize(UINT sizeType, TSize& size);
@@ -210,6 +232,10 @@ public:
     LRESULT WmuLoadFlyMenu(WPARAM, LPARAM);
     // An entry of the fly-out was chosen: the menu is loaded again. Returns 0.
     LRESULT WmuFlyMenuNotify(WPARAM, LPARAM);
+    // The map's view changed: the direction window follows it.
+    LRESULT WmuFieldChange(WPARAM, LPARAM);
+    // The LPARAM is the AstroObject* the finder chose, which the map brings into view.
+    LRESULT WmuObjectSelectedFromList(WPARAM, LPARAM object);
     // Prints a star chart of the map's view: the platform's print dialog, then, unless the user
     // cancelled there, the dialog with the chart's preview. The wait cursor shows meanwhile.
     void CmPrint();
@@ -229,6 +255,7 @@ private:
     AstroStatusWindow* pStatus = nullptr;
     std::string StateRoot;
     std::string DefaultKey = "Default";
+    AstroFinderWindow* pFinder = nullptr;
     bool bBusy = false;
 
     // The parent of the dialogs: this window once it is shown, its parent before.
@@ -236,10 +263,16 @@ private:
     // What the parent, the host, answers to a message; 0 without a parent.
     LRESULT AskHost(UINT message);
     static bool HasDefaultState(const std::string& root, const std::string& key);
-    bool IsHostFullScreen();
     // A sub-menu of the host's fly-out at `level`, filled from a menu resource; null when the
     // host has no fly-out menu.
     HostFlyMenu* LoadFlyout(int level, int menu, bool replaceStrings);
+    // Whether the host shows the component full screen.
+    bool IsFullScreen();
+    // Takes a side window away: the pointer is cleared before the window goes.
+    template <class Side>
+    void DeleteSideWindow(Side*& side);
+    // Lays the windows out again once a side window came or went.
+    void SideWindowsChanged();
 };
 
 StateContainer& operator<<(StateContainer& sc, const AstroNoxWindow& window);

@@ -63,19 +63,8 @@ void ObjectListDialog::SetupWindow()
 
 AstroCatalogue* ObjectListDialog::CatalogueOfRow(int row)
 {
-    switch (row >= 0 && row < kRowCount ? kRowCatalogues[row] : AstroCatalogue::PLANETS) {
-    case AstroCatalogue::CONSTELLATIONS:
-        return &Collector.GetConstellationCatalogue();
-    case AstroCatalogue::STARS:
-        return Collector.GetStarCatalogue();
-    case AstroCatalogue::MESSIER_OBJECTS:
-        return &Collector.GetMessierCatalogue();
-    case AstroCatalogue::COMETS:
-        return &Collector.GetCometCatalogue();
-    case AstroCatalogue::PLANETS:
-        break;
-    }
-    return &Collector.GetPlanetCatalogue();
+    return Collector.GetCatalogue(row >= 0 && row < kRowCount ? kRowCatalogues[row]
+                                                              : AstroCatalogue::PLANETS);
 }
 
 void ObjectListDialog::FillObjectList()

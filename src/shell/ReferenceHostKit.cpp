@@ -22,6 +22,7 @@
 #include "host/HostStringTable.h"
 #include "host/HostTitleBar.h"
 #include "platform/Registry.h"
+#include "host/SkyhuntGame.h"
 #include "platform/PngFile.h"
 #include "platform/Surface.h"
 #include "platform/TPrintDC.h"
@@ -226,8 +227,14 @@ void DestroyFrame(std::uint32_t handle)
     Frames().erase(found);
 }
 
+int StartSkyhunt()
+{
+    return StartSkyhuntGame() ? 1 : 0;
+}
+
 void CloseDesktop()
 {
+    CloseSkyhuntGame();
     // The headless desktop takes the place of any other, which closes it.
     WindowSystem::Get().SetBackend(std::make_unique<HeadlessBackend>());
     SetHostFrameAPI(nullptr);
@@ -342,7 +349,28 @@ std::string CheckUidRef(const std::string& value)
     return "uid=" + value + " names no object the planetarium holds";
 }
 
-int CheckCommand(const char* command, char* error, std::size_t errorSize)
+// The keys of a full state that a picture of the view cannot do without: where the map looks
+// (unless the options say) and when (unless --time says).
+std::string DescribeMissingForView(const std::string& command, const OrbiscopeView& view)
+{
+    std::vector<std::string> needed = {"FullState", "AstroNoxWindow", "AstroNoxWindow.MapWindow"};
+    if (!view.bCenter && !view.bLook && !view.bLocation) {
+        needed.insert(needed.end(), {"MapWindow.Orientation_Type", "MapWindow.Orientation"});
+    }
+    if (!view.bTime) {
+        needed.push_back("MapWindow.Time");
+    }
+    std::string missing;
+    for (const std::string& key : HostBookmarkList::MissingKeys(command)) {
+        if (std::find(needed.begin(), needed.end(), key) != needed.end()) {
+            missing += (missing.empty() ? "" : ", ") + key;
+        }
+    }
+    return missing.empty() ? missing : "it lacks " + missing + ", which the options do not give";
+}
+
+int CheckCommand(const char* command, const OrbiscopeView* view, char* error,
+                 std::size_t errorSize)
 {
     const std::string text = command ? command : "";
     if (text.find_first_not_of(' ') == std::string::npos) {
@@ -352,8 +380,7 @@ int CheckCommand(const char* command, char* error, std::size_t errorSize)
     std::string value;
     std::string wrong;
     if (line.GetValue("FullState", value)) {
-        wrong = HostBookmarkList::DescribeMissing(text);
-        wrong = wrong.empty() ? wrong : "the view " + wrong;
+        wrong = view ? DescribeMissingForView(text, *view) : HostBookmarkList::DescribeMissing(text);
     } else if (line.GetValue("stringref", value)) {
         wrong = CheckNameRef(value);
     } else if (line.GetValue("uid", value)) {
@@ -397,6 +424,7 @@ const OrbiscopeHostKit kKit{
     &DestroyFrame,
     &CloseDesktop,
     &PrintChart,
+    &StartSkyhunt,
     &CreateMainWindow,
     &AttachComponent,
     &CheckData,
@@ -404,6 +432,7 @@ const OrbiscopeHostKit kKit{
     &KeepSettings,
     &ShowMessage,
 };
+
 
 } // namespace
 

@@ -8,7 +8,7 @@
 // display, or the headless one for pictures), make a frame window (the bare one for pictures,
 // the main window with its title bar, menu, keys, bookmarks and help on a display), check the
 // data and a command string before the component gets them, set a view on the map, save the
-// map as a picture or print it as a chart, run the message loop. The table speaks plain C;
+// map as a picture or print it as a chart, start the sky game, run the message loop. The table speaks plain C;
 // window handles are the 32-bit numbers the entry returns.
 #include <cstddef>
 #include <cstdint>
@@ -81,6 +81,9 @@ struct OrbiscopeHostKit
     // 1, at 300 pixels per inch. 0 when that fails (no such window, a file that cannot be
     // written).
     int (*PrintChart)(std::uint32_t component, const char* path, int paper);
+    // Opens the sky game in a window of its own (or brings it to the front); 0 when it cannot
+    // be made. The game ends with its window, and with the message loop when it is the last.
+    int (*StartSkyhunt)(void);
     // The host's main window on a display, with `width` by `height` pixels for the component
     // below its title bar strip, installed as the host's frame with the help handler; its
     // handle, 0 when it cannot be made.
@@ -93,8 +96,10 @@ struct OrbiscopeHostKit
     int (*CheckData)(char* error, std::size_t errorSize);
     // 1 when the component can use the command string (an empty one too): a full state with
     // every key of a bookmark, an object named by "stringref" or "uid" that exists; otherwise
-    // 0 with what is wrong in `error`.
-    int (*CheckCommand)(const char* command, char* error, std::size_t errorSize);
+    // 0 with what is wrong in `error`. With a view (a picture or a chart), a full state needs
+    // only the keys of where and when the map looks that the view's options do not give.
+    int (*CheckCommand)(const char* command, const OrbiscopeView* view, char* error,
+                        std::size_t errorSize);
     // With 0 the user's settings are only read from then on: nothing is written and no store
     // is made (pictures and charts leave the saved views alone).
     void (*KeepSettings)(int keep);
@@ -103,7 +108,7 @@ struct OrbiscopeHostKit
     void (*ShowMessage)(std::uint32_t frame, const char* text);
 };
 
-inline constexpr int kOrbiscopeHostKitVersion = 4;
+inline constexpr int kOrbiscopeHostKitVersion = 5;
 
 const OrbiscopeHostKit* orbiscope_host_kit(void);
 

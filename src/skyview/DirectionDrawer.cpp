@@ -263,7 +263,7 @@ void DirectionDrawer::Paint(TDC& dc, const TRect&)
     const TRect circle = GetCircleRect();
 
     if (bShowHorizon) {
-        dc.SelectObject(TPen(HorizonColor, 1, PS_SOLID));
+        dc.SelectObject(TPen(HorizonColor, nLineWidth, PS_SOLID));
         // Start and end both at (0, 0): the whole ellipse.
         dc.Arc(circle, TPoint(0, 0), TPoint(0, 0));
         dc.RestorePen();
@@ -280,7 +280,7 @@ void DirectionDrawer::Paint(TDC& dc, const TRect&)
         }
     }
 
-    dc.SelectObject(TPen(FieldColor, 1, PS_SOLID));
+    dc.SelectObject(TPen(FieldColor, nLineWidth, PS_SOLID));
     if (!FieldPoints.empty()) {
         dc.MoveTo(FieldPoints.front());
         for (std::size_t i = 1; i < FieldPoints.size(); ++i) {
@@ -290,7 +290,7 @@ void DirectionDrawer::Paint(TDC& dc, const TRect&)
     }
 
     // The zenith's cross.
-    dc.SelectObject(TPen(HorizonColor, 1, PS_SOLID));
+    dc.SelectObject(TPen(HorizonColor, nLineWidth, PS_SOLID));
     const int x = circle.left + circle.Width() / 2;
     const int y = circle.top + circle.Height() / 2;
     const int a = circle.Width() / kCrossFraction;

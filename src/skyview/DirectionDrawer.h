@@ -76,6 +76,8 @@ public:
 
     // Draws the rim, the letters, the outline of the field and a cross at the zenith.
     void Paint(TDC& dc, const TRect& rect);
+    // Lines are one pixel wide unless a page asks for wider ones.
+    void SetLineWidth(int width) { nLineWidth = width; }
 
     // What the drawer holds, for those who place things on the disc.
     const PolarCoord& GetCenter() const { return Center; }
@@ -103,6 +105,7 @@ private:
     TColor FieldColor{0, 0, 255};
     TColor HorizonColor{255, 0, 255};
     int nBackgroundMode = 1;
+    int nLineWidth = 1;
     std::unique_ptr<FlatTransformation> pTransformation;
     PolarCoord Zenith;
     PolarCoord Center;

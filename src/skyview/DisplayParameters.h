@@ -47,6 +47,17 @@ public:
     // Day sky RGB 0, 0, 0x60, or the black night sky.
     void SetDaytime(bool daytime);
     bool IsDaytime() const { return bDaytime; }
+    // What lies below the horizon of a view from the ground: a dark grey on the screen, by
+    // day and by night, and a light grey on paper.
+    TColor GetGroundColor() const;
+
+    // The width of lines on the present surface, in its pixels: one on the screen; on paper
+    // at least a quarter of a millimetre, which a printer's single dot is not.
+    int GetLineWidth() const;
+    // The colour in which text of `screenColor` (a label, an object's mark) is drawn: that
+    // colour on the screen; on white paper black for white and greys, and for other colours
+    // a darker shade of the same hue that reads on white.
+    TColor GetTextColor(const TColor& screenColor) const;
 
     // Every member, the bits, the surface and the header included.
     void Copy(const DisplayParameters& other) { *this = other; }

@@ -129,7 +129,7 @@ void Label::SetDisplayPoint(const TPoint& point)
     }
 }
 
-void Label::Draw(TDC& dc) const
+void Label::Draw(TDC& dc, int lineWidth) const
 {
     if (bHidden) {
         return;
@@ -141,7 +141,7 @@ void Label::Draw(TDC& dc) const
     }
     dc.TextOut(DisplayPoint.x, DisplayPoint.y, Text);
     if (!bFixed) {
-        dc.SelectObject(TPen(Color, 1, PS_SOLID));
+        dc.SelectObject(TPen(Color, lineWidth, PS_SOLID));
         dc.MoveTo(LinePoint);
         dc.LineTo(ObjectPoint);
         dc.RestorePen();

@@ -51,8 +51,9 @@ public:
     TRect GetDisplayRect() const;
     // Puts the text's top-left corner at `point` and works out where the line meets the text.
     void SetDisplayPoint(const TPoint& point);
-    // The text, and unless fixed the line from the text to the object; nothing while hidden.
-    void Draw(TDC& dc) const;
+    // The text, and unless fixed the line from the text to the object, `lineWidth` pixels
+    // wide; nothing while hidden.
+    void Draw(TDC& dc, int lineWidth = 1) const;
 
     // Makes `point` the label's own point; a fixed label stands centred on it without a line.
     void SetFixedPoint(const TPoint& point, bool fixed);

@@ -14,6 +14,14 @@
 // no labelled object's point. A place that touches the avoided rectangle ends the search and
 // hides the label: the status text is never crossed, not even by a label that would fit
 // further out. All pixel units are those of the parameters' surface.
+//
+// What a place collides with is found through a grid of cells over the draw rectangle, each
+// listing the pictures, placed labels and labelled points that reach into it, so that a place
+// is checked against its neighbours only. The grid gives exactly the places that checking
+// every earlier label would; a layout of only a few labels does that instead.
+#include <cstddef>
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "catalogues/AstroList.h"
@@ -34,7 +42,12 @@ public:
     // Places on one ring: right, left, above left, above right, below left, below right.
     static constexpr int kPlacesPerRing = 6;
 
-    LabelManager();
+    // A layout of this many labels or more looks for collisions through the grid.
+    static constexpr std::size_t kGridFromLabels = 32;
+
+    // `gridFrom`: from how many labels on the grid is used (0 always, the largest size_t
+    // never).
+    explicit LabelManager(std::size_t gridFrom = kGridFromLabels);
     virtual ~LabelManager();
     LabelManager(const LabelManager&) = delete;
     LabelManager& operator=(const LabelManager&) = delete;
@@ -51,10 +64,14 @@ public:
     // Copies the label of every labelled object in `objects`, in list order, and notes the
     // objects that cover a rectangle.
     void LoadLabels(DisplayParameters& parameters, AstroList& objects);
+    // Drops the labels whose object's point is `hidden` (below the horizon, say), and stops
+    // avoiding pictures whose objects stand there.
+    void LeaveOut(const std::function<bool(const TPoint&)>& hidden);
     // Places every label, or hides it, and clears the dirty flag. Without a surface to measure
     // on, every label is hidden and the flag stays.
     void Arrange(DisplayParameters& parameters);
-    // Draws the labels, leaving out those of the hidden object.
+    // Draws the labels, leaving out those of the hidden object, with lines as wide as the
+    // surface of the last layout needs.
     void Draw(TDC& dc) const;
 
     // The first label whose rectangle holds `point`, or null; hidden labels hold nothing.
@@ -81,9 +98,11 @@ private:
     // Moves the fixed labels to the front by swapping; returns their number.
     std::size_t GatherFixedLabels();
     void PlaceFixedLabel(Label& label, TDC& dc, const TRect& screen);
-    // Tries the places of label `index` against the labels before it.
+    class Grid;
+    // Tries the places of label `index` against the labels before it, through the grid when
+    // there is one.
     void PlaceLabel(std::size_t index, DisplayParameters& parameters, TDC& dc, int step,
-                    const std::vector<TRect>& objectRects);
+                    const std::vector<TRect>& objectRects, Grid* grid);
     bool Collides(std::size_t index, const TRect& candidate,
                   const std::vector<TRect>& objectRects) const;
     void DeleteLabels();
@@ -92,4 +111,8 @@ private:
     AstroList ObjectsToAvoid;
     TRect AvoidRect;
     AstroObject* pHiddenObject = nullptr;
+    // Kept from one layout to the next, so that its cells keep their room.
+    std::unique_ptr<Grid> pGrid;
+    std::size_t nGridFrom;
+    int nLineWidth = 1;
 };

@@ -1,10 +1,13 @@
 #include "skyview/MapWindow.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 
 #include "catalogues/AstroObject.h"
+#include "coords/AngleMath.h"
 #include "coords/PositiveDegreeAngle.h"
 #include "coords/StellarCoord.h"
 #include "host/HostFile.h"
@@ -24,10 +27,12 @@
 #include "projection/RotatingOrientationInfo.h"
 #include "skyview/AstroStatusWindow.h"
 #include "skyview/DrawTimeLimit.h"
+#include "skyview/HorizonGround.h"
 #include "skyview/MouseDragger.h"
 #include "skyview/StarDisplayParameters.h"
 #include "solar/Moon.h"
 #include "solar/PlanetCatalogue.h"
+#include "solar/PlanetView.h"
 #include "solar/SolarSystemObject.h"
 #include "state/StateContainer.h"
 
@@ -43,6 +48,9 @@ constexpr double kDefaultFieldRadius = 20.0;
 // the margin (degrees) of it.
 constexpr int kHorizonPoints = 200;
 constexpr double kHorizonMargin = 15.0;
+// Degrees behind the rim of a view's hemisphere to which the horizon is still followed: so
+// little that those points land on the rim itself.
+constexpr double kHorizonRimMargin = 1.0;
 const TColor kHorizonColor(255, 0, 255);
 
 // The raster operation that clears the foreground where the mask is white: destination AND
@@ -261,8 +269,10 @@ void MapWindow::DrawAll()
         Labels.SetDirty();
     }
 
-    // The sky. A printed page keeps its white paper.
+    // The sky, in the day's colour while the Sun is up over a view from the ground. A printed
+    // page keeps its white paper, and the screen its colour.
     if (!Display.IsPrinting()) {
+        Display.SetDaytime(GetRotatingOrientation() != nullptr && SunIsUp());
         dc.FillRect(rect, TBrush(Display.BackgroundColor));
     }
 
@@ -301,11 +311,28 @@ void MapWindow::DrawAll()
         }
     }
 
-    // The labels are laid out again only when something changed, clear of the status line.
+    // A view that may not sink below the horizon shows no sky there: the ground covers what
+    // was drawn below it, and those objects have no labels.
+    std::optional<HorizonGround> below;
+    if (IsClippedAtHorizon()) {
+        below.emplace(*pTransformation);
+        below->Fill(dc, rect, TBrush(Display.GetGroundColor()));
+    }
+
+    // The labels are laid out again only when something changed, clear of the status line,
+    // whose place is known before they are: from the first frame on, and again when the line
+    // grows or shrinks.
+    const TRect statusRect = MeasureStatus(dc);
+    if (statusRect != Labels.GetAvoidRect()) {
+        Labels.SetDirty();
+    }
     if (Labels.IsDirty()) {
-        Labels.SetAvoidRect(StatusRect);
+        Labels.SetAvoidRect(statusRect);
         Labels.Flush();
         Labels.LoadLabels(Display, aVisibleObjects);
+        if (below) {
+            Labels.LeaveOut([&below](const TPoint& point) { return below->Covers(point); });
+        }
         Labels.Arrange(Display);
     }
     Labels.Draw(dc);
@@ -313,9 +340,8 @@ void MapWindow::DrawAll()
     if (limit.IsExpired()) {
         return;
     }
-    if (RotatingOrientationInfo* ground = GetRotatingOrientation();
-        ground && Display.bShowHorizon) {
-        DrawHorizon(dc, *ground, *pTransformation, rect);
+    if (RotatingOrientationInfo* view = GetRotatingOrientation(); view && Display.bShowHorizon) {
+        DrawHorizon(dc, *view, *pTransformation, rect);
     }
     if (limit.IsExpired()) {
         return;
@@ -373,7 +399,7 @@ void MapWindow::DrawGrid(TDC& dc, const TRect&, Transformation& t)
         LoadGridPoints(t);
         bGridDirty = false;
     }
-    dc.SelectObject(TPen(Grid.Color, 1, PS_SOLID));
+    dc.SelectObject(TPen(Grid.Color, Display.GetLineWidth(), PS_SOLID));
     for (const std::vector<TPoint>* line : aGridLines) {
         bool penUp = true;
         for (const TPoint& p : *line) {
@@ -515,23 +541,34 @@ void MapWindow::Erase(TDC& dc, const TRect& rect)
     dc.FillRect(rect, TBrush(GetBkgndColor()));
 }
 
-void MapWindow::DisplayStatus(TDC& dc, const TRect&)
+TRect MapWindow::MeasureStatus(TDC& dc)
 {
     if (!Display.bShowStatus) {
-        return;
+        return TRect();
     }
-    dc.SelectObject(StatusFont());
-    dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(kStatusTextColor);
     if (bStatusDirty) {
         AstroTime local = Time - Zone;
         local.SetMode(bMilitaryTime ? AstroTime::Clock24 : AstroTime::Clock12);
         StatusText = local.GetDescription3(); // am or pm on the 12-hour clock
         StatusText.append(" ").append(local.GetDescription2()).append("  ").append(LocationName);
-        TSize extent = dc.GetTextExtent(StatusText);
+        dc.SelectObject(StatusFont());
+        const TSize extent = dc.GetTextExtent(StatusText);
+        dc.RestoreFont();
         StatusRect = TRect(0, 0, extent.cx, extent.cy);
-        bStatusDirty = false;
     }
+    return StatusRect;
+}
+
+void MapWindow::DisplayStatus(TDC& dc, const TRect&)
+{
+    if (!Display.bShowStatus) {
+        return;
+    }
+    MeasureStatus(dc);
+    bStatusDirty = false;
+    dc.SelectObject(StatusFont());
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(kStatusTextColor);
     dc.TextOut(0, 0, StatusText);
     dc.RestoreFont();
 }
@@ -563,6 +600,27 @@ void MapWindow::RefreshAllStatus()
     TellMoonItem();
 }
 
+void MapWindow::BringEarthAndSunToTime()
+{
+    // The planets' request does this only while the planets are shown.
+    PlanetCatalogue& planets = Collector.GetPlanetCatalogue();
+    for (unsigned place : {PlanetCatalogue::kEarthPlace, PlanetCatalogue::kSunPlace}) {
+        if (SolarSystemObject* body = planets.GetSolarSystemObject(place)) {
+            body->SetTime(Time);
+        }
+    }
+}
+
+bool MapWindow::SunIsUp()
+{
+    const PlanetView* sun = Collector.GetPlanetCatalogue().GetView(PlanetCatalogue::kSunPlace);
+    if (!sun) {
+        return false;
+    }
+    BringEarthAndSunToTime();
+    return ObjectIsUp(*sun);
+}
+
 void MapWindow::TellMoonItem()
 {
     PlanetCatalogue& planets = Collector.GetPlanetCatalogue();
@@ -571,11 +629,7 @@ void MapWindow::TellMoonItem()
         return;
     }
     // The Moon's place, and with it its phase, is worked out from the Earth's and the Sun's.
-    for (unsigned place : {PlanetCatalogue::kEarthPlace, PlanetCatalogue::kSunPlace}) {
-        if (SolarSystemObject* body = planets.GetSolarSystemObject(place)) {
-            body->SetTime(Time);
-        }
-    }
+    BringEarthAndSunToTime();
     moon->SetTime(Time);
     MoonItem.Set(*moon);
 }
@@ -584,9 +638,22 @@ bool MapWindow::ShowPointerPosition(const TPoint& point)
 {
     PolarCoord sky;
     if (!pTransformation || !pTransformation->ReverseTranslate(point, sky)) {
+        PointerItem.Clear();
         return false;
     }
-    PointerItem.Set(StellarCoord(PolarCoord(PositiveDegreeAngle(sky.GetRA()), sky.GetDec())));
+    const StellarCoord position(PolarCoord(PositiveDegreeAngle(sky.GetRA()), sky.GetDec()));
+    if (!GetRotatingOrientation()) {
+        PointerItem.Set(position);
+        return true;
+    }
+    // Altitude and azimuth in the frame of the projection's zenith, whose RA runs from north
+    // through west: the azimuth shown runs from north through east, as a compass reads.
+    const PerspectiveModifier local(
+        RotatingOrientationInfo::KeepOffPole(pTransformation->GetZenith()), PolarCoord(0.0, 90.0));
+    PolarCoord horizontal;
+    local.ChangePerspective(sky, horizontal);
+    PointerItem.Set(position, PositiveDegreeAngle(360.0 - horizontal.GetRA().GetDegrees()),
+                    horizontal.GetDec());
     return true;
 }
 
@@ -601,40 +668,74 @@ void MapWindow::DrawHorizon(TDC& dc, const RotatingOrientationInfo& o, const Tra
     if (offset.GetDec().GetDegrees() + radius < 90.0 - kHorizonMargin) {
         return;
     }
-    dc.SelectObject(TPen(kHorizonColor, 1, PS_SOLID));
-
-    const bool kept = !HorizonPoints.empty() && pHorizonOrientation &&
+    const bool kept = pHorizonOrientation &&
                       pHorizonOrientation->GetFieldRadius() == o.GetFieldRadius() &&
                       pHorizonOrientation->GetZenithOffset() == offset && HorizonRect == rect;
     if (!kept) {
-        HorizonPoints.clear();
         // A plain copy, not a Clone: a clone would clip, and a view below the limit would
         // then never find its points kept.
         pHorizonOrientation = std::make_unique<RotatingOrientationInfo>(o);
         HorizonRect = rect;
-        // Altitude 0 from the azimuth of view less the radius to the azimuth plus it, in the
-        // local frame of the projection's zenith.
-        const PerspectiveModifier local(RotatingOrientationInfo::KeepOffPole(t.GetZenith()),
-                                        PolarCoord(0.0, 90.0));
-        const double step = 2.0 * radius / kHorizonPoints;
-        PositiveDegreeAngle azimuth(offset.GetRA().GetDegrees() - radius);
-        HorizonPoints.reserve(kHorizonPoints);
-        for (int i = 0; i < kHorizonPoints; ++i) {
-            PolarCoord sky;
-            local.ReversePerspective(PolarCoord(azimuth, DegreeAngle(0.0)), sky);
-            // Points beyond the visible radius are drawn to as they come.
-            TPoint p;
-            t.Translate(sky, p);
-            HorizonPoints.push_back(p);
-            azimuth = PositiveDegreeAngle(azimuth.GetDegrees() + step);
-        }
+        LoadHorizonPoints(t);
     }
-
+    if (HorizonPoints.size() < 2) {
+        return;
+    }
+    dc.SelectObject(TPen(kHorizonColor, Display.GetLineWidth(), PS_SOLID));
     dc.MoveTo(HorizonPoints.front());
     for (std::size_t i = 1; i < HorizonPoints.size(); ++i) {
         dc.LineTo(HorizonPoints[i]);
     }
     dc.RestorePen();
+}
+
+void MapWindow::LoadHorizonPoints(const Transformation& t)
+{
+    HorizonPoints.clear();
+    // The horizon is altitude 0 in the local frame of the projection's zenith, in which the
+    // centre of view stands at its azimuth and at a distance from the zenith.
+    const PerspectiveModifier local(RotatingOrientationInfo::KeepOffPole(t.GetZenith()),
+                                    PolarCoord(0.0, 90.0));
+    PolarCoord centre;
+    local.ChangePerspective(t.GetCenterOfView(), centre);
+    const double reach = HorizonReach(90.0 - centre.GetDec().GetDegrees(), t.GetVisibleRadius());
+    if (reach < 0.0) {
+        return;
+    }
+    // As many points per degree as 200 over twice the field radius; both ends of the span
+    // are points, and a whole circle closes on its first.
+    const double radius = t.GetProjector().GetFieldRadius();
+    const int count =
+        std::max(2, int(std::ceil(2.0 * reach * kHorizonPoints / (2.0 * radius))) + 1);
+    const double step = 2.0 * reach / (count - 1);
+    const double first = centre.GetRA().GetDegrees() - reach;
+    HorizonPoints.reserve(std::size_t(count));
+    for (int i = 0; i < count; ++i) {
+        PolarCoord sky;
+        local.ReversePerspective(
+            PolarCoord(PositiveDegreeAngle(first + i * step), DegreeAngle(0.0)), sky);
+        TPoint p;
+        t.Translate(sky, p);
+        HorizonPoints.push_back(p);
+    }
+}
+
+double MapWindow::HorizonReach(double fromZenith, double visibleRadius)
+{
+    // A view that shows its whole hemisphere shows the horizon to its rim; the points just
+    // behind the rim land on it, and a view of the zenith then closes the circle.
+    const double radius = visibleRadius < 90.0 ? visibleRadius : 90.0 + kHorizonRimMargin;
+    // A point of the horizon d degrees of azimuth from the centre's stands c from the
+    // centre, where cos c = sin(fromZenith) cos d: in view while c is at most the radius.
+    const double sine = std::sin(DegreesToRadians(fromZenith));
+    const double cosine = std::cos(DegreesToRadians(radius));
+    if (sine <= 0.0 || cosine <= -sine) {
+        return cosine <= 0.0 ? 180.0 : -1.0;
+    }
+    if (cosine >= sine) {
+        return -1.0;
+    }
+    return RadiansToDegrees(std::acos(cosine / sine));
 }
 
 void MapWindow::SetForegroundBitmap(const std::string& foreground, const std::string& mask)

@@ -130,6 +130,9 @@ public:
     void Erase(TDC& dc, const TRect& rect);
     // The red status line in the top left corner: local time, date and place.
     void DisplayStatus(TDC& dc, const TRect& rect);
+    // The rectangle the status line covers, its text made anew when it is dirty; empty when
+    // the line is not shown (on paper).
+    TRect MeasureStatus(TDC& dc);
 
     // The status panel. The map owns its four blocks and keeps them up to date whether or not
     // a panel shows them: the time (local) when the time changed, the Moon after a draw at a
@@ -142,18 +145,20 @@ public:
     AstroStatusWindow* GetStatusWindow() const { return pStatusWindow; }
     // With a panel attached, fills the time, orientation and Moon blocks from the map's state.
     void RefreshAllStatus();
-    // Shows in the pointer block the sky at a point of the window; false (and the block as it
-    // was) before the first draw or off the sky.
+    // Shows in the pointer block the sky at a point of the window: RA and Dec, and for a view
+    // from the ground azimuth and altitude too. False, with the block emptied, before the
+    // first draw or off the sky. The map calls it as the mouse moves over it.
     bool ShowPointerPosition(const TPoint& point);
     const PositionStatusItem& GetPointerItem() const { return PointerItem; }
     const TimeStatusItem& GetTimeItem() const { return TimeItem; }
     const OrientationStatusItem& GetOrientationItem() const { return OrientationItem; }
 
     // The horizon and the foreground.
-    // The horizon of `o` as a magenta line through 200 points over twice the field radius of
-    // `t`, centred on the azimuth of view; nothing when the field ends more than 15 degrees
-    // short of the horizon. The points are kept for the next draw of the same offset, radius
-    // and rectangle: they depend on the view against the horizon, not on the time.
+    // The horizon of `o` as a magenta line across all of it that `t` shows, whatever the shape
+    // of the window, a whole circle in a view of the whole sky; 200 points to twice the field
+    // radius. Nothing when the field ends more than 15 degrees short of the horizon. The
+    // points are kept for the next draw of the same offset, radius and rectangle: they depend
+    // on the view against the horizon, not on the time.
     void DrawHorizon(TDC& dc, const RotatingOrientationInfo& o, const Transformation& t,
                      const TRect& rect);
     // A picture and its mask (paths may carry the host's logical prefixes) to merge over the
@@ -221,6 +226,7 @@ public:
     void Scroll(const AstroScrollInfo& info);
     void ContinueScrolling();
     void StopScrolling();
+    bool IsScrolling() const { return bScrolling; }
     // The last scrolling asked for: its direction, interval and step.
     const AstroScrollInfo& GetScrollInfo() const { return ScrollInfo; }
     // Brings an object into view. Before the first draw the object waits for it. An object
@@ -358,6 +364,9 @@ public:
 
     // What the map holds.
     const AstroTime& GetTime() const { return Time; }
+    // The map's own time object: writing through it bypasses the flags of SetTime, so the
+    // next draw that runs for another reason shows the new time.
+    AstroTime& GetTime() { return Time; }
     const TimeZone& GetTimeZone() const { return Zone; }
     void SetTimeZone(const TimeZone& zone) { Zone = zone; }
     const GridInfo& GetGridInfo() const { return Grid; }
@@ -385,6 +394,14 @@ public:
     // The horizon's screen points of the last draw that drew it.
     const std::vector<TPoint>& GetHorizonPoints() const { return HorizonPoints; }
 
+    // The next draw asks for every object anew, although the view did not change: for
+    // objects added or removed from outside. Raises no flag.
+    void ForceReload() { bForceReload = true; }
+    // Redraws the frame at once although nothing in the view changed (a blink step, the end of
+    // a scroll, an object that changed its looks): the status flag is the cheapest one that
+    // makes the paint draw.
+    void RedrawNow();
+
     // The flags, for those who wait on a draw.
     bool IsTimeDirty() const { return bTimeDirty; }
     bool IsFirstDrawPending() const { return bFirstDrawPending; }
@@ -404,11 +421,17 @@ private:
     // Brings the Earth, the Sun and the Moon to the map's time, which the planets' request
     // does only while planets are shown, and fills the Moon block.
     void TellMoonItem();
+    void BringEarthAndSunToTime();
+    // Whether the Sun stands above the horizon of the view at the map's time.
+    bool SunIsUp();
+    // Works out the horizon's points for `t`.
+    void LoadHorizonPoints(const Transformation& t);
+    // How far in azimuth (degrees) either side of the centre of view the horizon is in view,
+    // for a centre that far from the zenith and a view of that visible radius: 180 when all
+    // of it is, below 0 when none of it is.
+    static double HorizonReach(double fromZenith, double visibleRadius);
     // Asks the user a yes-no question; true for yes.
     bool AskYesNo(const std::string& text, const std::string& caption);
-    // Redraws the frame at once although nothing in the view changed (a blink step, the end of
-    // a scroll): the status flag is the cheapest one that makes the paint draw.
-    void RedrawNow();
 
     ReferenceArray<std::vector<TPoint>> aGridLines{100, 30};
     AstroList aVisibleObjects{500, 1000};

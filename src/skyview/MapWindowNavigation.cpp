@@ -115,6 +115,7 @@ void MapWindow::EvMouseMove(UINT keys, TPoint& point)
     if (nWaitCursors == 0) {
         ::SetCursor(GetHostCursor(GetLinkObject(point) ? HOST_CURSOR_LINK : HOST_CURSOR_MAP));
     }
+    ShowPointerPosition(point);
 }
 
 void MapWindow::EvLButtonUp(UINT, TPoint& point)

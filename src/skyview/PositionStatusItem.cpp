@@ -3,14 +3,49 @@
 #include "coords/DegreeAngle.h"
 #include "coords/StellarCoord.h"
 
-PositionStatusItem::PositionStatusItem(const std::string& heading) : TextStatusItem(kId, heading, 2)
+namespace {
+
+// The degree sign in the component's code page.
+constexpr char kDegreeSign = '\xB0';
+
+enum Line
+{
+    kRALine,
+    kDecLine,
+    kAzimuthLine,
+    kAltitudeLine,
+    kLines
+};
+
+} // namespace
+
+PositionStatusItem::PositionStatusItem(const std::string& heading)
+    : TextStatusItem(kId, heading, kLines)
 {}
 
 void PositionStatusItem::Set(const StellarCoord& position)
 {
-    SetLine(0, "RA: (" + Number(position.GetRA().GetDegreeAngle().GetDegrees()) + ")" +
-                   position.GetRA().GetDescription1());
-    SetLine(1, "Dec: (" + Number(position.GetDec().GetDegreeAngle().GetDegrees()) + ")" +
-                   position.GetDec().GetDescription1());
+    SetLine(kRALine, "RA: (" + Number(position.GetRA().GetDegreeAngle().GetDegrees()) + ")" +
+                         position.GetRA().GetDescription1());
+    SetLine(kDecLine, "Dec: (" + Number(position.GetDec().GetDegreeAngle().GetDegrees()) + ")" +
+                          position.GetDec().GetDescription1());
+    SetLine(kAzimuthLine, "");
+    SetLine(kAltitudeLine, "");
+    Invalidate();
+}
+
+void PositionStatusItem::Set(const StellarCoord& position, const DegreeAngle& azimuth,
+                             const DegreeAngle& altitude)
+{
+    Set(position);
+    SetLine(kAzimuthLine, "Azimuth: " + Number(azimuth.GetDegrees()) + kDegreeSign);
+    SetLine(kAltitudeLine, "Altitude: " + Number(altitude.GetDegrees()) + kDegreeSign);
+}
+
+void PositionStatusItem::Clear()
+{
+    for (int line = 0; line < kLines; ++line) {
+        SetLine(std::size_t(line), "");
+    }
     Invalidate();
 }

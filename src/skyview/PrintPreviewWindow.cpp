@@ -1,9 +1,13 @@
 #include "skyview/PrintPreviewWindow.h"
 
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 #include "coords/DegreesMinutesSecondsArc.h"
 #include "coords/HoursMinutesSeconds.h"
+#include "coords/PositiveDegreeAngle.h"
 #include "host/HostFrameAPI.h"
 #include "host/HostModalMaker.h"
 #include "host/HostProf.h"
@@ -12,6 +16,7 @@
 #include "platform/TBrush.h"
 #include "platform/TMemoryDC.h"
 #include "platform/TRegion.h"
+#include "projection/RotatingOrientationInfo.h"
 #include "skyview/HostPrintPreviewDC.h"
 #include "skyview/MapWindow.h"
 #include "skyview/StarDisplayParameters.h"
@@ -22,6 +27,7 @@ namespace {
 constexpr short kStringTable = 5;
 constexpr short kTitleString = 1000;
 constexpr short kPrintedString = 0x11F8;
+constexpr short kNotPrintedString = 0x1F15;
 
 // The preview's size is worked out in twenty-fifths of an inch.
 constexpr double kUnitsPerInch = 25.0;
@@ -29,6 +35,38 @@ constexpr double kInchesPerUnit = 0.04;
 
 // The degree sign in the component's code page.
 constexpr char kDegreeSign = '\xB0';
+
+constexpr double kMinutesPerDay = 24.0 * 60.0;
+
+// "UTC", or "UTC+05:30" and "UTC-04:00": how far the local time shown stands from UT.
+std::string ZoneText(const AstroTime& universal, const AstroTime& local)
+{
+    const long minutes = std::lround((local.GetMJD() - universal.GetMJD()) * kMinutesPerDay);
+    if (minutes == 0) {
+        return "UTC";
+    }
+    char text[48];
+    std::snprintf(text, sizeof text, "UTC%c%02ld:%02ld", minutes < 0 ? '-' : '+',
+                  std::labs(minutes) / 60, std::labs(minutes) % 60);
+    return text;
+}
+
+// "50°00' N, 8°42' E" from a place whose longitude runs west from 0 to 360.
+std::string PlaceText(const LatLong& place)
+{
+    auto arc = [](double degrees, char positive, char negative) {
+        const long minutes = std::lround(std::fabs(degrees) * 60.0);
+        char text[48];
+        std::snprintf(text, sizeof text, "%ld%c%02ld' %c", minutes / 60, kDegreeSign, minutes % 60,
+                      degrees < 0.0 ? negative : positive);
+        return std::string(text);
+    };
+    double west = place.GetLongitude().GetDegrees();
+    if (west > 180.0) {
+        west -= 360.0;
+    }
+    return arc(place.GetLatitude().GetDegrees(), 'N', 'S') + ", " + arc(-west, 'E', 'W');
+}
 
 } // namespace
 
@@ -119,15 +157,25 @@ std::vector<std::string> PrintPreviewWindow::MakeHeading() const
     AstroTime local = map.GetTime() - map.GetTimeZone();
     local.SetMode(bMilitaryTime ? AstroTime::Clock24 : AstroTime::Clock12);
 
+    // A view from the ground that has no place name is named by its latitude and longitude.
+    std::string place = map.GetLocationName();
+    const auto* ground = dynamic_cast<const RotatingOrientationInfo*>(&map.GetOrientation());
+    if (place.empty() && ground) {
+        place = PlaceText(ground->GetLocation());
+    }
+
+    // The whole width of the shorter side, as the status panel gives it.
     std::ostringstream field;
-    field << "Minimum field Of View: " << map.GetOrientation().GetFieldRadius() << kDegreeSign;
+    field << "Minimum field Of View: " << 2.0 * map.GetOrientation().GetFieldRadius()
+          << kDegreeSign;
 
     const PolarCoord centre = map.GetOrientation().GetCenterOfView();
     return {
-        local.GetDescription3() + " " + local.GetDescription2(),
-        map.GetLocationName(),
+        local.GetDescription3() + " " + local.GetDescription2() + " " +
+            ZoneText(map.GetTime(), local),
+        place,
         field.str(),
-        "Center RA: " + HoursMinutesSeconds(centre.GetRA()).GetDescription1(),
+        "Center RA: " + HoursMinutesSeconds(PositiveDegreeAngle(centre.GetRA())).GetDescription1(),
         "Center Dec: " + DegreesMinutesSecondsArc(centre.GetDec()).GetDescription1(),
     };
 }
@@ -146,7 +194,8 @@ void PrintPreviewWindow::DrawPage(TDC& dc)
     ClipTo(dc, Layout.GetPageRect());
     dc.FrameRect(Layout.GetSkyRect(), black);
 
-    // The compass, from the view just drawn.
+    // The compass, from the view just drawn, its lines as wide as the sky's.
+    Direction.SetLineWidth(Display.GetLineWidth());
     Direction.SetRect(Layout.GetCompassRect());
     Direction.Set(*pMapWindow);
     ClipTo(dc, Layout.GetCompassRect());
@@ -187,9 +236,15 @@ void PrintPreviewWindow::Print()
     if (!pPrintDC) {
         return;
     }
-    PrintCopies();
-    MessageBox(getHostString(kStringTable, kPrintedString).c_str(),
-               getHostString(kStringTable, kTitleString).c_str(), MB_OK);
+    const std::string title = getHostString(kStringTable, kTitleString);
+    if (PrintCopies()) {
+        MessageBox(getHostString(kStringTable, kPrintedString).c_str(), title.c_str(), MB_OK);
+        return;
+    }
+    // Nothing reached the printer: the user hears so, and why.
+    const std::string text =
+        formatHostString(getHostString(kStringTable, kNotPrintedString), {pPrintDC->GetError()});
+    MessageBox(text.c_str(), title.c_str(), MB_OK | MB_ICONEXCLAMATION);
 }
 
 void PrintPreviewWindow::Paint(TDC& dc, bool, TRect& rect)

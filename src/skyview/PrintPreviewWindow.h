@@ -40,13 +40,16 @@ public:
                        int copies);
     ~PrintPreviewWindow() override;
 
-    // Prints all copies, then says so in a message box (also when the printer refused).
+    // Prints all copies, then says in a message box that the chart went to the printer, or
+    // that it did not and why.
     void Print();
     // The printing alone: false when there is no printer or it refused the document.
     bool PrintCopies();
     // Lays out and draws one page on a printer or preview context.
     void DrawPage(TDC& dc);
-    // The heading's five lines for the map's present view.
+    // The heading's five lines for the map's present view: the local time with its distance
+    // from UT, the place (its name, or else the latitude and longitude of a view from the
+    // ground), the field across the shorter side, and the centre's RA (0h to 24h) and Dec.
     std::vector<std::string> MakeHeading() const;
 
     // The preview: the page scaled into the client area, framed in black.

@@ -30,7 +30,7 @@ bool CometView::IsLabeled(const DisplayParameters& /*parameters*/) const
     return true;
 }
 
-void CometView::Draw(TDC& dc, DisplayParameters& /*parameters*/)
+void CometView::Draw(TDC& dc, DisplayParameters& parameters)
 {
-    CrossMark::Draw(dc, displayPoint);
+    CrossMark::Draw(dc, displayPoint, parameters);
 }

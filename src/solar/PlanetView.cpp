@@ -65,12 +65,12 @@ Label* PlanetView::GetLabel(DisplayParameters& parameters)
     }
     FontRef::ForResolution(psLabelFontRef, nLabelFontResolution, *parameters.pDC, "Times New Roman",
                            kLabelHeightInches);
-    if (pLabel && pLabel->GetFontRef() != psLabelFontRef) {
+    const TColor color = parameters.GetTextColor(TColor::White);
+    if (pLabel && (pLabel->GetFontRef() != psLabelFontRef || pLabel->GetColor() != color)) {
         pLabel.reset();
     }
     if (!pLabel) {
-        pLabel = std::make_unique<Label>(GetListName(), *this, *psLabelFontRef,
-                                         parameters.IsPrinting() ? TColor::Black : TColor::White);
+        pLabel = std::make_unique<Label>(GetListName(), *this, *psLabelFontRef, color);
     }
     return pLabel.get();
 }

@@ -2,6 +2,8 @@
 // user reads, and its label.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <sstream>
 #include <tuple>
 
 #include "StarIndexTesting.h"
@@ -119,6 +121,30 @@ TEST(Star, RecordReadsBackAndADamagedOneIsRefusedLeavingTheStarAlone)
             EXPECT_EQ(star->GetPosition(), good ? PolarCoord(101.287, -16.716) : PolarCoord(3, 4));
         }
     }
+    // A star object reused for a record without a name keeps no name from the last one.
+    {
+        HostFile file(dir.File("unnamed.bin"), HostFile::WriteNew);
+        ASSERT_TRUE(Star(42, 5.0, PolarCoord(10.0, 20.0)).Dump(file));
+    }
+    const std::string unnamed = dir.ReadFile("unnamed.bin");
+    Star reused(1, 2.0, PolarCoord(3.0, 4.0), "Kept");
+    ASSERT_NE(reused.Load(unnamed.data(), unnamed.size()), nullptr);
+    EXPECT_EQ(reused.GetInfoName(), "SAO42");
+}
+
+TEST(Star, ACatalogueLineWrittenOutReadsBackAtItsPlaceEvenWhenSecondsRoundToSixty)
+{
+    // RA whose seconds are within a microsecond of the next minute, hour or day. (The name does
+    // not come back: the three empty fields before it are one separator.)
+    for (double ra : {101.287, 15.0 * Sexagesimal(12, 59, 59.9999999),
+                      15.0 * Sexagesimal(23, 59, 59.9999999)}) {
+        std::ostringstream line;
+        Star(7, 3.5, PolarCoord(ra, -16.5), "Round").Dump(line);
+        Star back(1, 1.0, PolarCoord());
+        ASSERT_TRUE(back.Initialize(line.str().c_str())) << line.str();
+        const double apart = std::remainder(back.GetPosition().GetRA().GetDegrees() - ra, 360.0);
+        EXPECT_NEAR(apart, 0.0, 1e-5) << line.str();
+    }
 }
 
 TEST(Star, LabelIsThePopularNameOfABrightStarInWhite)
@@ -134,6 +160,10 @@ TEST(Star, LabelIsThePopularNameOfABrightStarInWhite)
     ASSERT_NE(vega.GetLabel(canvas.Parameters), nullptr);
     EXPECT_EQ(vega.GetLabel(canvas.Parameters)->GetText(), "Vega");
     EXPECT_EQ(vega.GetLabel(canvas.Parameters)->GetColor(), TColor::White);
+    // A star read again under a new name shows that name at once.
+    ASSERT_TRUE(vega.Initialize("67174,0.03,18,36,56.3,+,38,47,1.0,7001,172167,91262,Wega"));
+    ASSERT_NE(vega.GetLabel(canvas.Parameters), nullptr);
+    EXPECT_EQ(vega.GetLabel(canvas.Parameters)->GetText(), "Wega");
 }
 
 TEST(Star, TheInformationHeadingNamesTheStarAndItsNumberOnlyWhenItHasOne)

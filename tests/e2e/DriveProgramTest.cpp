@@ -98,7 +98,14 @@ TEST_F(DriveProgramTest, WhatCannotBeUsedIsNamedAndEndsTheProgram)
         {{"print", "--out", out, "FullState=1 AstroNoxWindow=<MapWindow=<Grid=<Show=1>>>"},
          {},
          2,
-         "it lacks AstroNoxWindow.DisplayStatusWindow"},
+         "it lacks MapWindow.Orientation_Type, MapWindow.Orientation, MapWindow.Time, which "
+         "the options do not give"},
+        // The window takes only a whole bookmark, and says so before it looks for a display.
+        {{"FullState=1 AstroNoxWindow=<MapWindow=<Grid=<Show=1>>>"},
+         {"DISPLAY=:97"},
+         2,
+         "it lacks AstroNoxWindow.DisplayStatusWindow, AstroNoxWindow.DisplayFinderWindow, "
+         "MapWindow.Orientation_Type"},
     };
     for (const auto& row : cases) {
         const Outcome o = Run(row.Args, row.Env);

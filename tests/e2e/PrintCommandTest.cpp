@@ -25,22 +25,26 @@ protected:
 
 TEST_F(PrintCommandTest, PrintsTheChartOfTheViewOnOneLetterPage)
 {
+    // A bookmark's view of Orion whose centre has an RA of -276 degrees, which is 84: 5h 36m.
+    // The field is 40 degrees across the narrower side, twice its radius, as the status panel
+    // says; the time is UT, and says so.
     const std::string chart = (Dir / "orion.pdf").string();
     Outcome o = Run({"print", "--out", chart, "--paper", "letter", "--time", "2000-01-01 21:30",
-                     "--center", "84,0", "--radius", "20"});
+                     "FullState=1 AstroNoxWindow=<MapWindow=<Orientation_Type=0 Orientation=<"
+                     "Base=<Radius=20> CenterOfView=<RA=-276 Dec=0> Zenith=<RA=-276 Dec=90>>>>"});
     ASSERT_EQ(o.nExit, 0) << o.Err;
     EXPECT_NE(o.Out.find("wrote " + chart), std::string::npos) << o.Out;
     EXPECT_EQ(PdfInfo(chart, "Pages"), "1");
     EXPECT_EQ(PdfInfo(chart, "Page size"), "612 x 792 pts (letter)");
 
     const std::string text = Poppler("pdftotext", chart, "-");
-    for (const char* line : {"9:30:00pm January 1, 2000", "Minimum field Of View: 20\xC2\xB0",
+    for (const char* line : {"9:30:00pm January 1, 2000 UTC\n", "Minimum field Of View: 40\xC2\xB0",
                              "Center RA: 05h 36m 00.0s", "Center Dec: + 00\xC2\xB0 00' 00.0\""}) {
         EXPECT_NE(text.find(line), std::string::npos) << line << " in:\n" << text;
     }
 }
 
-TEST_F(PrintCommandTest, TheViewFromTheGroundPrintsOnA4ByDefault)
+TEST_F(PrintCommandTest, TheViewFromTheGroundPrintsOnA4ByDefaultWithItsPlace)
 {
     const std::string chart = (Dir / "south.pdf").string();
     Outcome o = Run({"print", "--out", chart, "--time", "2000-01-01 00:00", "--location", "50,8.7",
@@ -48,8 +52,13 @@ TEST_F(PrintCommandTest, TheViewFromTheGroundPrintsOnA4ByDefault)
     ASSERT_EQ(o.nExit, 0) << o.Err;
     EXPECT_EQ(PdfInfo(chart, "Pages"), "1");
     EXPECT_EQ(PdfInfo(chart, "Page size"), "595.276 x 841.89 pts (A4)");
-    EXPECT_NE(Poppler("pdftotext", chart, "-").find("Minimum field Of View: 40"),
-              std::string::npos);
+    const std::string text = Poppler("pdftotext", chart, "-");
+    for (const char* line : {"50\xC2\xB0"
+                             "00' N, 8\xC2\xB0"
+                             "42' E",
+                             "Minimum field Of View: 80"}) {
+        EXPECT_NE(text.find(line), std::string::npos) << line << " in:\n" << text;
+    }
 }
 
 TEST_F(PrintCommandTest, BadOptionsAndUnwritableFilesAreRefused)

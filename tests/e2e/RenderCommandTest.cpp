@@ -41,9 +41,10 @@ class RenderCommandTest : public ProgramTest
 protected:
     RenderCommandTest() : ProgramTest("orbiscope-render") {}
 
-    // Renders the view the options give at 2000 January 1, 0h UT, 800 by 600, and compares
-    // it with its golden picture. A limit of -30 leaves the stars out, so that the picture
-    // shows the grid and the Sun, Moon and planets that stand in the view at that moment.
+    // Renders the view the options give at 2000 January 1, 0h UT (unless they give a time),
+    // 800 by 600 unless they give a size, and compares it with its golden picture. A limit of
+    // -30 leaves the stars out, so that the picture shows the grid and the Sun, Moon and
+    // planets that stand in the view at that moment.
     void ExpectGoldenView(const std::string& name, const std::vector<std::string>& view)
     {
         const fs::path picture = Dir / (name + ".png");
@@ -54,8 +55,6 @@ protected:
         ASSERT_EQ(made.nExit, 0) << made.Err;
         PngImage actual;
         ASSERT_TRUE(ReadPngFile(picture.string(), actual));
-        EXPECT_EQ(actual.Width, 800);
-        EXPECT_EQ(actual.Height, 600);
 
         const fs::path golden = fs::path(ORBISCOPE_TEST_DIR) / "e2e" / "golden" / (name + ".png");
         const char* update = std::getenv("ORBISCOPE_UPDATE_GOLDEN");
@@ -104,9 +103,10 @@ TEST_F(RenderCommandTest, StarsOfOrionAndOfTheNorthernSkyMatchTheirPictures)
 
 // The view from the ground must not change unseen: from latitude 50 N, longitude 0, looking
 // south with a field of 60 degrees, asked for at 20 degrees up and raised to 60 so that the
-// field clears the horizon, whose magenta arc crosses the lower part of the picture. Orion,
-// Taurus and Gemini stand on the meridian at RA 100 to magnitude 5 with the grid round the
-// north pole above them, and Saturn and Jupiter low in the west, on the right.
+// field clears the horizon, whose magenta line runs round the lower half of the hemisphere's
+// disc, with the dark grey ground below it. Orion, Taurus and Gemini stand on the meridian at
+// RA 100 to magnitude 5 with the grid round the north pole above them, and Saturn and Jupiter
+// low in the west, on the right.
 TEST_F(RenderCommandTest, TheViewFromFiftyNorthWithItsHorizonMatchesItsPicture)
 {
     ExpectGoldenView("horizon-lat50-south-radius60", {"--location", "50,0", "--look", "180,20",

@@ -153,7 +153,7 @@ TEST_F(HostMainFrameTest, TheMenuButtonShowsTheEntriesWithTheirKeysMarksAndSubMe
     ASSERT_TRUE(Main.IsFullScreen());
     const std::string full = ShownMenu();
     EXPECT_EQ(full.substr(0, full.find(" | ")), "Exit Full Screen\tF11");
-    EXPECT_NE(full.find("Show Below the Horizon | Finder\tCtrl+F}"), std::string::npos) << full;
+    EXPECT_NE(full.find("Show Below the Horizon | [x]Finder\tCtrl+F}"), std::string::npos) << full;
     EXPECT_NE(full.find("Dump Time Zone Names"), std::string::npos) << full;
 }
 
@@ -221,17 +221,25 @@ TEST_F(HostMainFrameTest, KeysOpenTheDialogsAndTheWheelAndPlusAndMinusZoom)
     EXPECT_EQ(pMap->GetTransformation()->GetCenterOfView(), PolarCoord(0, 90)) << "about the centre";
 }
 
-TEST_F(HostMainFrameTest, FullScreenFillsTheScreenAndEscapeGivesTheWindowBack)
+// Full-screen mode fills the screen and brings the finder beside the map; Ctrl+F asks for the
+// finder, so it switches to full-screen mode first. Escape on the map gives the window back.
+TEST_F(HostMainFrameTest, FullScreenFillsTheScreenWithTheFinderAndEscapeGivesTheWindowBack)
 {
     const TRect before = Main.GetWindowRect();
-    Key(VK_F11);
-    EXPECT_TRUE(Main.IsFullScreen());
-    EXPECT_EQ(Main.GetWindowRect().Size(), Desk().GetScreenSize());
-    EXPECT_EQ(pWindow->GetClientRect().Height(), Desk().GetScreenSize().cy - HostTitleBar::kHeight)
-        << "the component is laid out on the new size";
-    Key(VK_ESCAPE);
-    EXPECT_FALSE(Main.IsFullScreen());
-    EXPECT_EQ(Main.GetWindowRect(), before);
+    for (const bool control : {false, true}) {
+        Key(control ? 'F' : VK_F11, control);
+        EXPECT_TRUE(Main.IsFullScreen()) << control;
+        EXPECT_EQ(Main.GetWindowRect().Size(), Desk().GetScreenSize());
+        EXPECT_EQ(pWindow->GetClientRect().Height(),
+                  Desk().GetScreenSize().cy - HostTitleBar::kHeight)
+            << "the component is laid out on the new size";
+        EXPECT_NE(pWindow->GetFinderWindow(), nullptr);
+        pMap->SetFocus();
+        Key(VK_ESCAPE);
+        EXPECT_FALSE(Main.IsFullScreen());
+        EXPECT_EQ(Main.GetWindowRect(), before);
+        EXPECT_EQ(pWindow->GetFinderWindow(), nullptr);
+    }
 }
 
 // A bookmark keeps the view with its title; choosing it brings the view back; one cut short
@@ -290,7 +298,7 @@ TEST_F(HostMainFrameTest, FOneOpensTheHelpPageAndAModuleRequestWithoutAStarterIs
     EXPECT_EQ(Launched[0].rfind("file://", 0), 0u) << Launched[0];
     EXPECT_NE(Launched[0].find("orbiscope-help.html"), std::string::npos) << Launched[0];
 
-    HostBookmark game("skyhunt");
+    HostBookmark game("nonesuch");
     EXPECT_EQ(Main.SendMessage(kHostStartModule, 0, reinterpret_cast<LPARAM>(&game)), 0);
 }
 

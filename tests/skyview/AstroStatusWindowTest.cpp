@@ -1,6 +1,6 @@
 // The status display: the texts of the panel's blocks beside the map (pointer, time,
-// orientation, Moon, from top to bottom) for known map states, and the red status line on the
-// map itself.
+// orientation, Moon, from top to bottom) for known map states and under the mouse, and the red
+// status line on the map itself.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -130,4 +130,31 @@ TEST_F(AstroStatusWindowTest, TheMoonBlockShowsThePhaseAtTheMapsTimeEvenWithTheP
     ASSERT_EQ(line.rfind("Phase: 1", 0), 0u) << line;
     EXPECT_NEAR(std::stod(line.substr(7)), 180.0, 0.5) << line;
     EXPECT_LE(line.size(), 7u + 7u) << line;
+}
+
+TEST_F(AstroStatusWindowTest, ThePointerBlockFollowsTheMouseWithAzimuthAndAltitudeFromTheGround)
+{
+    // In the middle of the map: Orion's centre; then, from the ground, the direction of view,
+    // south (a compass's 180) 30 degrees up. Off the map's sky the block is empty.
+    RecordingMap& map = OpenWithPanel();
+    auto pointAt = [&](const TPoint& point) {
+        Desk().MouseMove(map.ClientToScreen(point));
+        Pump();
+        return Lines(0);
+    };
+    std::vector<std::string> lines = pointAt(TPoint(100, 165));
+    EXPECT_NE(lines.at(1).find("05h 36m 00.0s"), std::string::npos) << lines[1];
+    EXPECT_NE(lines.at(2).find("+ 00\xB0 00' 00.0\""), std::string::npos) << lines[2];
+    EXPECT_EQ(lines.at(3), "");
+    map.SetOrientation(RotatingOrientationInfo(map.GetCollector().GetOrigin(), LatLong(50.0, 0.0),
+                                               PolarCoord(180.0, 60.0), 20.0, true));
+    Pump();
+    lines = pointAt(TPoint(100, 166));
+    ASSERT_EQ(lines.at(3).rfind("Azimuth: ", 0), 0u) << lines[3];
+    EXPECT_NEAR(std::stod(lines[3].substr(9)), 180.0, 0.2) << lines[3];
+    ASSERT_EQ(lines.at(4).rfind("Altitude: ", 0), 0u) << lines[4];
+    EXPECT_NEAR(std::stod(lines[4].substr(10)), 30.0, 0.2) << lines[4];
+    map.SetOrientation(NorthUp(Orion(), 90.0));
+    Pump();
+    EXPECT_EQ(pointAt(TPoint(1, 1)).at(1), "");
 }

@@ -1,9 +1,12 @@
-// Laying out the labels of a view: the places a label tries, what it must keep clear of, and
-// what the manager draws. On a 96-dpi surface, where the rings of places lie
-// 6, 9, 12 and 15 pixels from an object, with the test font, in which "X" is 8 by 14 pixels.
+// Laying out the labels of a view: the places a label tries, what it must keep clear of, what
+// the manager draws, and that its grid finds exactly the places a search of every label would.
+// On a 96-dpi surface, where the rings of places lie 6, 9, 12 and 15 pixels from an object,
+// with the test font, in which "X" is 8 by 14 pixels.
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <memory>
+#include <random>
 #include <vector>
 
 #include "MarkedObject.h"
@@ -129,4 +132,52 @@ TEST_F(LabelManagerTest, OtherLabelsTextsAndPointsAndPicturesAreAvoided)
     Manager.Draw(Canvas.GetDC());
     EXPECT_EQ(Canvas.Picture(TRect(90, 20, 97, 21)), "######.\n");
     EXPECT_EQ(Canvas.Picture(TRect(82, 20, 84, 21)), "..\n");
+}
+
+TEST_F(LabelManagerTest, TheGridPlacesEveryLabelWhereCheckingEveryEarlierOneWould)
+{
+    // Two thousand names crowd the canvas and spill over its edges, among pictures, with some
+    // fixed names and the status text in a corner: most find no place, and those that do must
+    // find the same one either way.
+    std::mt19937 random(15);
+    std::uniform_int_distribution<int> x(-30, 285), y(-30, 229), letters(1, 9), side(2, 40);
+    for (int i = 0; i < 2000; ++i) {
+        const TPoint point(x(random), y(random));
+        const int half = i % 10 == 0 ? side(random) / 2 : 0;
+        Add(point, std::string(std::size_t(letters(random)), char('a' + i % 26)),
+            TRect(point.x - half, point.y - half, point.x + half, point.y + half));
+    }
+    LabelManager direct(std::numeric_limits<std::size_t>::max());
+    LabelManager grid(0);
+    for (LabelManager* manager : {&direct, &grid}) {
+        manager->SetAvoidRect(TRect(0, 0, 90, 14));
+        manager->LoadLabels(Canvas.Parameters, Objects);
+        for (std::size_t i = 0; i < manager->size(); i += 50) {
+            (*manager)[i]->SetFixedPoint((*manager)[i]->GetObjectPoint(), true);
+        }
+        manager->Arrange(Canvas.Parameters);
+    }
+    ASSERT_EQ(direct.size(), grid.size());
+    int shown = 0;
+    for (std::size_t i = 0; i < direct.size(); ++i) {
+        EXPECT_EQ(direct[i]->GetDisplayRect(), grid[i]->GetDisplayRect()) << direct[i]->GetText();
+        shown += direct[i]->IsHidden() ? 0 : 1;
+    }
+    EXPECT_GT(shown, 100);
+    direct.Flush();
+    grid.Flush();
+}
+
+TEST_F(LabelManagerTest, LabelsAndPicturesOfObjectsLeftOutTakeNoRoom)
+{
+    // Below a line at y = 100 nothing counts: the picture there no longer pushes the star's
+    // label to the left, and the object there loses its label.
+    MarkedObject& star = Add(TPoint(100, 90), "X");
+    Add(TPoint(200, 150), "", TRect(105, 83, 110, 110));
+    Add(TPoint(50, 150), "X");
+    Manager.LoadLabels(Canvas.Parameters, Objects);
+    Manager.LeaveOut([](const TPoint& point) { return point.y > 100; });
+    Manager.Arrange(Canvas.Parameters);
+    ASSERT_EQ(Manager.size(), 1u);
+    EXPECT_EQ(RectOf(star), TRect(106, 83, 114, 97));
 }

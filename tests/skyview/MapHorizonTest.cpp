@@ -1,12 +1,13 @@
 // The horizon line of a view from the ground: drawn only when the field comes within 15
-// degrees of it and the horizon is shown, through 200 points that lie on it, also at a pole of
-// the sky, and worked out again after a resize. Its pixels are checked by the whole-program
-// picture of the view from 50 N.
+// degrees of it and the horizon is shown, through points that lie on it, also at a pole of the
+// sky, and worked out again after a resize; and the ground below it. That it crosses views of
+// every shape is checked by the whole-program pictures of views from 50 N.
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "MapFixture.h"
+#include "catalogues/ConstellationSettings.h"
 #include "projection/RotatingOrientationInfo.h"
 
 namespace {
@@ -36,7 +37,7 @@ TEST_F(MapHorizonTest, ItIsDrawnWhenTheFieldComesWithinFifteenDegreesOfItAndLies
     // 40 degrees from the zenith and 34 to the edge: the field ends 16 degrees short.
     EXPECT_TRUE(Look(50.0, 180.0, 40.0, 34.0).GetHorizonPoints().empty());
     EXPECT_EQ(Magenta(), 0);
-    EXPECT_EQ(Look(50.0, 180.0, 40.0, 35.0).GetHorizonPoints().size(), 200u);
+    EXPECT_FALSE(Look(50.0, 180.0, 40.0, 35.0).GetHorizonPoints().empty());
 
     // At the North Pole (the zenith a tenth of a degree or less from the pole of the sky) the
     // horizon is the equator; elsewhere every point is 90 degrees from the zenith.
@@ -59,12 +60,12 @@ TEST_F(MapHorizonTest, AfterAResizeItIsWorkedOutAgainAndHiddenOrOnAFixedViewItIs
 {
     RecordingMap& map = Look(50.0, 180.0, 60.0, 30.0);
     const std::vector<TPoint> before = map.GetHorizonPoints();
-    ASSERT_EQ(before.size(), 200u);
+    ASSERT_FALSE(before.empty());
     // Half the size, half the distances from the centre, to the pixel.
     map.MoveWindow(0, 0, 120, 80);
     Pump();
     const std::vector<TPoint>& after = map.GetHorizonPoints();
-    ASSERT_EQ(after.size(), 200u);
+    ASSERT_EQ(after.size(), before.size());
     for (std::size_t i = 0; i < after.size(); i += 20) {
         EXPECT_NEAR(after[i].x - 60, (before[i].x - 120) / 2.0, 1.0) << i;
         EXPECT_NEAR(after[i].y - 40, (before[i].y - 80) / 2.0, 1.0) << i;
@@ -82,4 +83,36 @@ TEST_F(MapHorizonTest, AfterAResizeItIsWorkedOutAgainAndHiddenOrOnAFixedViewItIs
     map.SetOrientation(NorthUp(Orion(), 90.0));
     Pump();
     EXPECT_EQ(Magenta(), 0);
+}
+
+TEST_F(MapHorizonTest, TheGroundBelowItHidesTheSkyOnlyWhileTheViewIsKeptAboveIt)
+{
+    // A window three times as wide as high, looking 10 degrees up, whose line runs out of it
+    // on both sides: each pixel is ground exactly when it lies below the horizon, stars or
+    // none. A view that may sink below the horizon has no ground.
+    Open(480, 160, true);
+    Map().ShowPlanets(false);
+    Map().SetConstellationSettings(ConstellationSettings(false, false, false));
+    RecordingMap& map = Look(50.0, 180.0, 80.0, 10.0);
+    const unsigned ground = IndexOf(TColor(40, 40, 40));
+    int wrong = 0;
+    int below = 0;
+    for (int y = 0; y < 160; ++y) {
+        for (int x = 0; x < 480; ++x) {
+            PolarCoord sky;
+            if (Bitmap().ValueAt(x, y) == IndexOf(TColor(255, 0, 255)) ||
+                !map.MapWindowPointToPolarCoord(TPoint(x, y), sky)) {
+                continue;
+            }
+            const bool isBelow = Apart(sky, map.GetOrientation().GetZenith()) > 90.0;
+            below += isBelow;
+            wrong += isBelow != (Bitmap().ValueAt(x, y) == ground);
+        }
+    }
+    EXPECT_GT(below, 500);
+    EXPECT_LT(wrong, 20) << "of " << below;
+    map.ClipAtHorizon(false);
+    map.SetTime(AstroTime(1, 1, 2000, 0.0));
+    Pump();
+    EXPECT_EQ(CountValue(Bitmap(), ground), 0);
 }

@@ -135,6 +135,26 @@ TEST_F(MapNavigationTest, AClickCentresTheSkyOpensAnObjectsInformationAndARightC
     Pump();
     EXPECT_EQ(Map().Informed.size(), 1u);
     EXPECT_LT(Apart(Centre(), star.GetPosition()), 0.5);
+
+    // With the mouse disabled, as while the host plays its game on the map, neither button
+    // moves the view or opens anything.
+    Map().DisableMouse(true);
+    const PolarCoord still = Centre();
+    Desk().Click(Map(), TPoint(20, 20));
+    Desk().Click(Map(), TPoint(180, 130), MK_RBUTTON);
+    Pump();
+    EXPECT_EQ(Centre(), still);
+    EXPECT_EQ(Map().Informed.size(), 1u);
+}
+
+TEST_F(MapNavigationTest, LocatingAStarFainterThanTheLabelLimitLabelsItOnTheMap)
+{
+    Start();
+    Star faint(2, 7.4, PolarCoord(85.0, 5.0), "Faint");
+    Map().ShowObject(faint);
+    Pump();
+    EXPECT_LT(Apart(Centre(), faint.GetPosition()), 1e-6);
+    EXPECT_TRUE(faint.IsLabeled(Map().GetDisplayParameters()));
 }
 TEST_F(MapNavigationTest, AClickOnAConstellationOrItsLabelGoesStraightToItsArticle)
 {
@@ -178,6 +198,9 @@ TEST_F(MapNavigationTest, ScrollingStepsOnEveryTickRestartsWithANewPaceAndStopsW
     EXPECT_DOUBLE_EQ(offset().GetDec().GetDegrees(), 35.0);
     Desk().AdvanceTime(800);
     EXPECT_DOUBLE_EQ(offset().GetDec().GetDegrees(), 0.4);
+    // Stopped there: its timer goes, and nothing is left ticking.
+    Desk().AdvanceTime(200);
+    EXPECT_FALSE(WindowSystem::Get().NextTimerDue().has_value());
 }
 
 TEST_F(MapNavigationTest, ABlinkingObjectOrLabelIsLeftOutEveryOtherHalfSecondUntilStopped)

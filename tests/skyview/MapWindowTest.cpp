@@ -1,11 +1,13 @@
 // The map's draw cycle and its state: what a paint draws and what it only copies, the grids it
-// draws, printing, a centre chosen while the time waits, and the state saved and restored.
+// draws, printing, a centre chosen while the time waits, labels clear of the status line, and
+// the state saved and restored.
 #include <gtest/gtest.h>
 
 #include <string>
 #include <tuple>
 
 #include "MapFixture.h"
+#include "catalogues/Constellation.h"
 #include "catalogues/ConstellationSettings.h"
 #include "host/HostCmdLine.h"
 #include "platform/TBrush.h"
@@ -207,4 +209,30 @@ TEST_F(MapWindowTest, AStateSavedRestoredAndSavedAgainIsTheSameString)
                   "Long=208.8> Zenith_Offset=<RA=90 Dec=45>>>");
     EXPECT_NE(dynamic_cast<const RotatingOrientationInfo*>(&copy.GetOrientation()), nullptr);
     EXPECT_EQ(copy.GetGridInfo(), GridInfo(12, 18, true));
+}
+
+TEST_F(MapWindowTest, LabelsKeepClearOfTheStatusLineFromTheFirstFrameAndWhenItGrows)
+{
+    // Orion's name stands centred in a strip 24 pixels high, with the status line's text on
+    // its left, ten pixels a letter: in a narrow strip the name is under the text from the
+    // first frame on and is hidden; in a wide one it shows until a long place name makes the
+    // line reach it.
+    for (const auto& [width, place, shown] : std::vector<std::tuple<int, std::string, bool>>{
+             {400, "", false}, {800, "", true}, {800, "Somewhere far away by the sea", false}}) {
+        RecordingMap& map = Make(width, 24);
+        map.SetTime(AstroTime(1, 1, 2000, 0.0));
+        const Constellation* orion =
+            map.GetCollector().GetConstellationCatalogue().GetConstellation("Orion", false);
+        ASSERT_NE(orion, nullptr);
+        map.SetOrientation(NorthUp(orion->GetLabelPosition(), 10.0));
+        pHost->Create();
+        Pump();
+        if (!place.empty()) {
+            map.SetLocationName(place);
+            Pump();
+        }
+        EXPECT_EQ(CountValue(Bitmap(), IndexOf(TColor(255, 128, 0))) > 0, shown)
+            << width << " " << place;
+        pHost->Destroy();
+    }
 }

@@ -6,6 +6,7 @@
 
 #include "platform/Surface.h"
 #include "platform/TDC.h"
+#include "skyview/DisplayParameters.h"
 #include "skyview/StarDisplayParameters.h"
 
 TEST(StarDisplayParameters, MagnitudesGiveSizesAndGreysEvenFromRangesEnteredBackwardsOrEmpty)
@@ -50,4 +51,17 @@ TEST(StarDisplayParameters, MagnitudesGiveSizesAndGreysEvenFromRangesEnteredBack
         EXPECT_EQ(p.GetSizeFromMagnitude(magnitude), size) << name << " at " << magnitude;
         EXPECT_EQ(p.GetIntensityFromMagnitude(magnitude), grey) << name << " at " << magnitude;
     }
+}
+
+TEST(StarDisplayParameters, AGreyRangeEditedPastWhiteDrawsTheBrightestStarsWhiteNotDark)
+{
+    // A bookmark or settings file may carry levels above 255; the grey stops at white rather
+    // than wrapping round to a dark one.
+    DisplayParameters p;
+    p.IntensityRange = {50, 400};
+    p.CalculateIntensityScale();
+    TColor color;
+    unsigned index = 0;
+    p.GetColorFromIntensity(p.GetIntensityFromMagnitude(-1.0), color, index);
+    EXPECT_EQ(color, TColor::White);
 }

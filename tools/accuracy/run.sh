@@ -5,6 +5,7 @@
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../.." && pwd)
+bash "$root/tools/setup"
 build=${1:-$root/build/release}
 (cd "$here" && npm ci --no-audit --no-fund --silent)
 mkdir -p "$build"
