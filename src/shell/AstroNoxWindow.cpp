@@ -596,6 +596,17 @@ void AstroNoxWindow::CmDevelopmentFlyout()
     }
 }
 
+void AstroNoxWindow::ScrollMap(int direction)
+{
+    if (direction == 0) {
+        pMap->StopScrolling();
+        return;
+    }
+    AstroScrollInfo info = pMap->GetScrollInfo();
+    info.SetDirection(direction);
+    pMap->Scroll(info);
+}
+
 // The side panels.
 
 void AstroNoxWindow::SetStatusWindowState(bool on)

@@ -138,6 +138,10 @@ public:
     void CmConstellationFlyout();
     void CmDevelopmentFlyout();
 
+    // Scrolls the map's view in a direction of AstroScrollInfo, at the step and pace the map
+    // scrolls at, until it is called with 0.
+    void ScrollMap(int direction);
+
     // Shows or hides the Messier objects and keeps the choice as the default.
     void SetMessierObjectsDisplay(bool show);
 

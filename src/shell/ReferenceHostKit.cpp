@@ -250,18 +250,9 @@ std::uint32_t CreateMainWindow(const char* title, int width, int height)
     HostMainFrame* window = frame.get();
     // The arrow keys scroll the view of the map inside, as far as the map's scrolling goes.
     frame->SetScroller([window](int direction) {
-        auto* component = dynamic_cast<AstroNoxWindow*>(window->GetModule());
-        MapWindow* map = component ? component->GetMap() : nullptr;
-        if (!map) {
-            return;
+        if (auto* component = dynamic_cast<AstroNoxWindow*>(window->GetModule())) {
+            component->ScrollMap(direction);
         }
-        if (direction == 0) {
-            map->StopScrolling();
-            return;
-        }
-        AstroScrollInfo info = map->GetScrollInfo();
-        info.SetDirection(direction);
-        map->Scroll(info);
     });
     if (!frame->Create()) {
         return 0;

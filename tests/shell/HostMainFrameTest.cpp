@@ -12,6 +12,7 @@
 #include "platform/MenuData.h"
 #include "platform/PopupMenuWindow.h"
 #include "projection/FixedOrientationInfo.h"
+#include "projection/RotatingOrientationInfo.h"
 
 namespace {
 
@@ -56,6 +57,7 @@ protected:
         ASSERT_NE(pWindow, nullptr);
         pMap = pWindow->GetMap();
         Main.AttachModule(*pWindow);
+        Main.SetScroller([this](int direction) { pWindow->ScrollMap(direction); });
         Pump();
         pMap->SetFocus();
     }
@@ -219,6 +221,21 @@ TEST_F(HostMainFrameTest, KeysOpenTheDialogsAndTheWheelAndPlusAndMinusZoom)
     Pump();
     EXPECT_NEAR(Radius(), 20 * 0.75, 1e-9);
     EXPECT_EQ(pMap->GetTransformation()->GetCenterOfView(), PolarCoord(0, 90)) << "about the centre";
+
+    // An arrow key held turns the view on at the map's pace; let go, it stands.
+    pMap->SetOrientation(RotatingOrientationInfo(pMap->GetCollector().GetOrigin(),
+                                                 LatLong(48.85, 357.65), PolarCoord(180, 45),
+                                                 40.0, true));
+    Pump();
+    auto view = [this] { return pMap->GetTransformation()->GetCenterOfView(); };
+    const PolarCoord before = view();
+    Desk().KeyDown(VK_LEFT);
+    Desk().AdvanceTime(1000);
+    const PolarCoord held = view();
+    EXPECT_NE(held, before);
+    Desk().KeyUp(VK_LEFT);
+    Desk().AdvanceTime(1000);
+    EXPECT_EQ(view(), held);
 }
 
 // Full-screen mode fills the screen and brings the finder beside the map; Ctrl+F asks for the
