@@ -137,7 +137,16 @@ TEST_F(HostMainFrameTest, TheMenuButtonShowsTheEntriesWithTheirKeysMarksAndSubMe
     pMap->ShowMessierObjects(true);
     pMap->ShowComets(false);
 
+    // A right click anywhere on the strip opens the same menu as the button.
+    std::string byRightClick;
+    Desk().AnswerNextModal([&byRightClick](TWindow& menu) {
+        byRightClick = Read(dynamic_cast<PopupMenuWindow&>(menu).GetMenu());
+        Desk().PressKey(VK_ESCAPE);
+    });
+    Desk().Click(*Main.GetTitleBar(), TPoint(200, 10), MK_RBUTTON);
+    Pump();
     const std::string shown = ShownMenu();
+    EXPECT_EQ(byRightClick, shown);
     EXPECT_EQ(shown,
               "Full Screen\tF11 | - | Zoom In\t+ | Zoom Out\t- | - | Display {Constellations "
               "{Names | [x]Figures | Boundaries} | [x]Planet Labels | Stars... | Comets | "
@@ -308,12 +317,32 @@ TEST_F(HostMainFrameTest, TheFirstStartAsksForThePlaceUntilItIsGiven)
     EXPECT_EQ(pMap->GetLocationName(), "Quito");
 }
 
+TEST_F(HostMainFrameTest, TheWindowsStateKeptAtAKeyBringsItsViewBack)
+{
+    pMap->SetOrientation(FixedOrientationInfo(nullptr, PolarCoord(0, 90), PolarCoord(0, 90), 20));
+    pWindow->SaveInRegistryState("SOFTWARE\\Orbiscope Test\\Kept");
+    pMap->SetOrientation(FixedOrientationInfo(nullptr, PolarCoord(0, 90), PolarCoord(0, 90), 60));
+    pWindow->RestoreFromRegistryState("SOFTWARE\\Orbiscope Test\\Kept");
+    EXPECT_NEAR(Radius(), 20, 1e-6);
+    EXPECT_FALSE(AstroNoxWindow::HasDefaultState()) << "not the default state";
+}
+
+// F1 opens the help page at its top over the map, and at the dialog's section in a dialog.
 TEST_F(HostMainFrameTest, FOneOpensTheHelpPageAndAModuleRequestWithoutAStarterIsPassedOver)
 {
     Key(VK_F1);
-    ASSERT_EQ(Launched.size(), 1u);
+    Desk().AnswerNextModal([](TWindow& dialog) {
+        Desk().PressKey(VK_F1);
+        HeadlessBackend::PressButton(dialog, IDCANCEL);
+    });
+    Key('G', true);
+    ASSERT_EQ(Launched.size(), 2u);
     EXPECT_EQ(Launched[0].rfind("file://", 0), 0u) << Launched[0];
-    EXPECT_NE(Launched[0].find("orbiscope-help.html"), std::string::npos) << Launched[0];
+    EXPECT_NE(Launched[0].find("/orbiscope-help.html#planetarium"), std::string::npos)
+        << Launched[0];
+    EXPECT_NE(Launched[1].find("/orbiscope-help.html#ascension-declination-lines"),
+              std::string::npos)
+        << Launched[1];
 
     HostBookmark game("nonesuch");
     EXPECT_EQ(Main.SendMessage(kHostStartModule, 0, reinterpret_cast<LPARAM>(&game)), 0);
