@@ -24,7 +24,7 @@ protected:
 
 TEST_F(DriveProgramTest, APersonSetsThePlaceUsesTheKeysAndMenuAndOpensABookmarkNextTime)
 {
-    for (const char* tool : {"xvfb-run", "xdotool", "xwd", "xwininfo", "convert", "compare"}) {
+    for (const char* tool : {"xvfb-run", "xdotool", "xwd", "xwininfo", "xprop", "convert", "compare"}) {
         if (!Installed(tool)) {
             GTEST_SKIP() << tool << " is not installed";
         }
@@ -51,6 +51,10 @@ TEST_F(DriveProgramTest, APersonSetsThePlaceUsesTheKeysAndMenuAndOpensABookmarkN
     auto number = [&](const char* name) { return std::atol(facts[name].c_str()); };
     EXPECT_EQ(facts["first-start-asks"], "1") << said;
     EXPECT_EQ(facts.count("map-drawn"), 0u) << "the sky never showed\n" << said;
+    // A window the window manager decorates and lets the user size, down to a minimum.
+    EXPECT_NE(facts["hints"].find("_NET_WM_WINDOW_TYPE_NORMAL"), std::string::npos) << said;
+    EXPECT_NE(facts["hints"].find("WM_TRANSIENT_FOR:  not found"), std::string::npos) << said;
+    EXPECT_NE(facts["hints"].find("minimum size: 480 by 360"), std::string::npos) << said;
     EXPECT_EQ(facts["ctrl+t"], "Set Date and Time") << said;
     EXPECT_EQ(facts["ctrl+l"], "Set Location") << said;
     EXPECT_EQ(facts["ctrl+g"], "Right Ascension and Declination Lines") << said;

@@ -89,6 +89,10 @@ while [ $i -lt 10 ] && names | grep -qxF 'Set Location'; do
 done
 wait_map || fact map-drawn 0
 
+# What the window tells a window manager: a normal window, at least 480 by 360.
+window_id=$(xwininfo -root -children | sed -n 's/^ *\(0x[0-9a-f]*\) "Orbiscope":.*/\1/p' | head -1)
+fact hints "$(xprop -id "$window_id" _NET_WM_WINDOW_TYPE WM_TRANSIENT_FOR WM_NORMAL_HINTS | tr '\n\t' '  ')"
+
 for key in ctrl+t ctrl+l ctrl+g ctrl+p; do dialog_of $key; done
 
 # The menu button opens the fly-out menu, Escape closes it.

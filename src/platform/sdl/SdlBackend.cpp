@@ -136,6 +136,10 @@ std::unique_ptr<SdlBackend> SdlBackend::Open(std::string& error)
     if (!chosen) {
         SDL_SetHint(SDL_HINT_VIDEODRIVER, x && *x ? "x11" : "wayland");
     }
+    // The windows are drawn in memory and copied to the screen: SDL is not to make a renderer
+    // for that, which would make each window anew at its first picture and lose what was set
+    // on it for the window manager (its smallest size).
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
         error = x && *x && !chosen ? std::string("the X display \"") + x +
                                          "\" cannot be reached (" + SDL_GetError() + ")"
