@@ -19,8 +19,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <condition_variable>
 #include <cmath>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -497,8 +497,7 @@ int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
         return kExitFailure;
     }
     if (!kit.CheckCommand(request.Command.c_str(), &request.View, reason, sizeof reason)) {
-        std::fprintf(stderr, "orbiscope %s: cannot use the command string: %s\n", command,
-                     reason);
+        std::fprintf(stderr, "orbiscope %s: cannot use the command string: %s\n", command, reason);
         return kExitUsage;
     }
     kit.OpenDesktop(0, reason, sizeof reason);
@@ -520,10 +519,9 @@ int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
         kit.SetView(map, &request.View);
         int width = 0;
         int height = 0;
-        const bool written =
-            making == Making::Picture
-                ? kit.SaveMapPicture(map, request.Out.c_str(), &width, &height)
-                : kit.PrintChart(map, request.Out.c_str(), request.Paper);
+        const bool written = making == Making::Picture
+                                 ? kit.SaveMapPicture(map, request.Out.c_str(), &width, &height)
+                                 : kit.PrintChart(map, request.Out.c_str(), request.Paper);
         if (!written) {
             std::fprintf(stderr, "orbiscope %s: cannot write %s\n", command, request.Out.c_str());
             status = kExitFailure;
@@ -695,10 +693,11 @@ int UnknownCommand(const std::string& word)
             guess = std::string(" (did you mean ") + known + "?)";
         }
     }
-    std::fprintf(stderr,
-                 "orbiscope: unknown command \"%s\"%s; the commands are render, print and skyhunt, and "
-                 "a command string holds key=value words (see orbiscope --help)\n",
-                 word.c_str(), guess.c_str());
+    std::fprintf(
+        stderr,
+        "orbiscope: unknown command \"%s\"%s; the commands are render, print and skyhunt, and "
+        "a command string holds key=value words (see orbiscope --help)\n",
+        word.c_str(), guess.c_str());
     return kExitUsage;
 }
 

@@ -361,8 +361,9 @@ void HostMainFrame::OpenFlyMenu(TPoint screen, bool rightAligned)
     });
     AddHostEntries(popup);
     AddKeyLabels(popup);
-    const UINT chosen = UINT(TrackPopupMenu(popup, TPM_RETURNCMD | (rightAligned ? TPM_RIGHTALIGN : 0),
-                                            screen.x, screen.y, 0, HWindow, nullptr));
+    const UINT chosen =
+        UINT(TrackPopupMenu(popup, TPM_RETURNCMD | (rightAligned ? TPM_RIGHTALIGN : 0), screen.x,
+                            screen.y, 0, HWindow, nullptr));
     DestroyMenu(popup);
     if (chosen) {
         DoCommand(chosen);

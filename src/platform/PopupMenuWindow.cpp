@@ -241,8 +241,7 @@ void PopupMenuWindow::OpenSub(int position)
     CloseSub();
     const auto& items = Items();
     if (position < 0 || position >= int(items.size()) ||
-        !items[std::size_t(position)].OpensSubMenu() ||
-        !items[std::size_t(position)].IsEnabled()) {
+        !items[std::size_t(position)].OpensSubMenu() || !items[std::size_t(position)].IsEnabled()) {
         return;
     }
     TRect row = GetItemRect(position);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <cstdio>
+#include <limits>
 #include <map>
 #include <memory>
 #include <string>
@@ -21,14 +21,14 @@
 #include "host/HostMainFrame.h"
 #include "host/HostStringTable.h"
 #include "host/HostTitleBar.h"
-#include "platform/Registry.h"
 #include "host/SkyhuntGame.h"
+#include "platform/MessageBox.h"
 #include "platform/PngFile.h"
+#include "platform/Registry.h"
 #include "platform/Surface.h"
 #include "platform/TPrintDC.h"
 #include "platform/TPrinter.h"
 #include "platform/WindowSystem.h"
-#include "platform/MessageBox.h"
 #include "platform/headless/HeadlessBackend.h"
 #include "platform/sdl/SdlBackend.h"
 #include "projection/FixedOrientationInfo.h"
@@ -245,8 +245,8 @@ std::uint32_t CreateMainWindow(const char* title, int width, int height)
     if (width <= 0 || height <= 0) {
         return 0;
     }
-    auto frame = std::make_unique<HostMainFrame>(title ? title : "", width,
-                                                 height + HostTitleBar::kHeight);
+    auto frame =
+        std::make_unique<HostMainFrame>(title ? title : "", width, height + HostTitleBar::kHeight);
     HostMainFrame* window = frame.get();
     // The arrow keys scroll the view of the map inside, as far as the map's scrolling goes.
     frame->SetScroller([window](int direction) {
@@ -267,7 +267,8 @@ std::uint32_t CreateMainWindow(const char* title, int width, int height)
 int AttachComponent(std::uint32_t frame, std::uint32_t component)
 {
     auto found = Frames().find(frame);
-    auto* main = found == Frames().end() ? nullptr : dynamic_cast<HostMainFrame*>(found->second.get());
+    auto* main =
+        found == Frames().end() ? nullptr : dynamic_cast<HostMainFrame*>(found->second.get());
     auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(ToHandle(component)));
     if (!main || !window) {
         return 0;
@@ -316,14 +317,16 @@ std::string CheckNameRef(const std::string& value)
     MapWindow probe(nullptr);
     AstroCatalogue* catalogue = AstroNoxWindow::CatalogueOfWord(probe.GetCollector(), word);
     if (!catalogue) {
-        return "\"" + word + "\" is no catalogue: the words are Constellation, Star, Planet "
-                              "and Messier";
+        return "\"" + word +
+               "\" is no catalogue: the words are Constellation, Star, Planet "
+               "and Messier";
     }
     const auto objects = catalogue->GetListOfNamedObjects();
     const bool found = objects && std::any_of(objects->begin(), objects->end(), [&](auto* o) {
                            return o && EqualNoCase(o->GetRefName(), name);
                        });
-    return found ? std::string() : "no object of the catalogue " + word + " is named \"" + name + "\"";
+    return found ? std::string()
+                 : "no object of the catalogue " + word + " is named \"" + name + "\"";
 }
 
 // What is wrong with a "uid", or "" when it names something.
@@ -360,8 +363,7 @@ std::string DescribeMissingForView(const std::string& command, const OrbiscopeVi
     return missing.empty() ? missing : "it lacks " + missing + ", which the options do not give";
 }
 
-int CheckCommand(const char* command, const OrbiscopeView* view, char* error,
-                 std::size_t errorSize)
+int CheckCommand(const char* command, const OrbiscopeView* view, char* error, std::size_t errorSize)
 {
     const std::string text = command ? command : "";
     if (text.find_first_not_of(' ') == std::string::npos) {
@@ -371,7 +373,8 @@ int CheckCommand(const char* command, const OrbiscopeView* view, char* error,
     std::string value;
     std::string wrong;
     if (line.GetValue("FullState", value)) {
-        wrong = view ? DescribeMissingForView(text, *view) : HostBookmarkList::DescribeMissing(text);
+        wrong =
+            view ? DescribeMissingForView(text, *view) : HostBookmarkList::DescribeMissing(text);
     } else if (line.GetValue("stringref", value)) {
         wrong = CheckNameRef(value);
     } else if (line.GetValue("uid", value)) {
@@ -401,7 +404,7 @@ void ShowMessage(std::uint32_t frame, const char* text)
 {
     TWindow* owner = GetWindowPtr(ToHandle(frame));
     MessageBoxA(owner ? owner->HWindow : nullptr, text ? text : "", "Orbiscope",
-                 MB_OK | MB_ICONERROR);
+                MB_OK | MB_ICONERROR);
 }
 
 const OrbiscopeHostKit kKit{
@@ -423,7 +426,6 @@ const OrbiscopeHostKit kKit{
     &KeepSettings,
     &ShowMessage,
 };
-
 
 } // namespace
 

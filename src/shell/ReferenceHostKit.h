@@ -8,8 +8,8 @@
 // display, or the headless one for pictures), make a frame window (the bare one for pictures,
 // the main window with its title bar, menu, keys, bookmarks and help on a display), check the
 // data and a command string before the component gets them, set a view on the map, save the
-// map as a picture or print it as a chart, start the sky game, run the message loop. The table speaks plain C;
-// window handles are the 32-bit numbers the entry returns.
+// map as a picture or print it as a chart, start the sky game, run the message loop. The table
+// speaks plain C; window handles are the 32-bit numbers the entry returns.
 #include <cstddef>
 #include <cstdint>
 

@@ -24,7 +24,8 @@ protected:
 
 TEST_F(DriveProgramTest, APersonSetsThePlaceUsesTheKeysAndMenuAndOpensABookmarkNextTime)
 {
-    for (const char* tool : {"xvfb-run", "xdotool", "xwd", "xwininfo", "xprop", "convert", "compare"}) {
+    for (const char* tool :
+         {"xvfb-run", "xdotool", "xwd", "xwininfo", "xprop", "convert", "compare"}) {
         if (!Installed(tool)) {
             GTEST_SKIP() << tool << " is not installed";
         }

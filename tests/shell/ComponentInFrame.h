@@ -45,9 +45,8 @@ protected:
     void CancelFirstStart()
     {
         if (!AstroNoxWindow::HasDefaultState()) {
-            Desk().AnswerNextModal([](TWindow& dialog) {
-                HeadlessBackend::PressButton(dialog, IDCANCEL);
-            });
+            Desk().AnswerNextModal(
+                [](TWindow& dialog) { HeadlessBackend::PressButton(dialog, IDCANCEL); });
         }
     }
     // The component entered and painted.

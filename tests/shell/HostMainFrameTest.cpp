@@ -203,7 +203,9 @@ TEST_F(HostMainFrameTest, KeysOpenTheDialogsAndTheWheelAndPlusAndMinusZoom)
     {
         UINT Key;
         std::string Title;
-    } dialogs[] = {{'T', "Set Date and Time"}, {'L', "Set Location"}, {'G', "Right Ascension and Declination Lines"}};
+    } dialogs[] = {{'T', "Set Date and Time"},
+                   {'L', "Set Location"},
+                   {'G', "Right Ascension and Declination Lines"}};
     for (const auto& row : dialogs) {
         std::string title;
         Desk().AnswerNextModal([&title](TWindow& dialog) {
@@ -229,12 +231,12 @@ TEST_F(HostMainFrameTest, KeysOpenTheDialogsAndTheWheelAndPlusAndMinusZoom)
     Desk().Type("-");
     Pump();
     EXPECT_NEAR(Radius(), 20 * 0.75, 1e-9);
-    EXPECT_EQ(pMap->GetTransformation()->GetCenterOfView(), PolarCoord(0, 90)) << "about the centre";
+    EXPECT_EQ(pMap->GetTransformation()->GetCenterOfView(), PolarCoord(0, 90))
+        << "about the centre";
 
     // An arrow key held turns the view on at the map's pace; let go, it stands.
-    pMap->SetOrientation(RotatingOrientationInfo(pMap->GetCollector().GetOrigin(),
-                                                 LatLong(48.85, 357.65), PolarCoord(180, 45),
-                                                 40.0, true));
+    pMap->SetOrientation(RotatingOrientationInfo(
+        pMap->GetCollector().GetOrigin(), LatLong(48.85, 357.65), PolarCoord(180, 45), 40.0, true));
     Pump();
     auto view = [this] { return pMap->GetTransformation()->GetCenterOfView(); };
     const PolarCoord before = view();
@@ -300,7 +302,8 @@ TEST_F(HostMainFrameTest, BookmarksAreKeptListedRestoredRefusedAndDeleted)
     EXPECT_NEAR(Radius(), 20, 1e-6);
 
     for (int answer : {IDNO, IDYES}) {
-        Desk().AnswerNextModal([answer](TWindow& box) { HeadlessBackend::PressButton(box, answer); });
+        Desk().AnswerNextModal(
+            [answer](TWindow& box) { HeadlessBackend::PressButton(box, answer); });
         Main.DoCommand(HostMainFrame::kFirstDeleteCommand);
         EXPECT_EQ(HostBookmarkList().Read().size(), answer == IDNO ? 1u : 0u);
     }

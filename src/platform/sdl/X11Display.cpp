@@ -8,9 +8,8 @@ namespace {
 
 int NoteXError(Display*, XErrorEvent* error)
 {
-    dbstream << "X error " << int(error->error_code) << " of request "
-             << int(error->request_code) << " on resource " << error->resourceid
-             << ", passed over" << dbendl;
+    dbstream << "X error " << int(error->error_code) << " of request " << int(error->request_code)
+             << " on resource " << error->resourceid << ", passed over" << dbendl;
     return 0;
 }
 
