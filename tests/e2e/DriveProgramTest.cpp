@@ -73,6 +73,12 @@ TEST_F(DriveProgramTest, APersonSetsThePlaceUsesTheKeysAndMenuAndOpensABookmarkN
     EXPECT_GT(number("start-differs"), 100) << said;
     EXPECT_LT(number("restored-differs"), number("start-differs") / 10) << said;
     EXPECT_EQ(facts["exit-2"], "0") << said << ReadAll(Dir / "app-err-2.txt");
+    // Without the star files: a message box over the window, the same words on standard error.
+    EXPECT_GT(number("no-data-box"), 5000) << said;
+    EXPECT_EQ(facts["exit-3"], "1") << said;
+    EXPECT_NE(ReadAll(Dir / "app-err-3.txt").find("bright.bin is missing: it was looked for at"),
+              std::string::npos)
+        << ReadAll(Dir / "app-err-3.txt");
 }
 
 // Each input the program cannot use ends it with a message that says what is wrong, at once,

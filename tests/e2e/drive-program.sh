@@ -156,3 +156,21 @@ fact restored-differs "$(map_difference bookmarked.png restored.png)"
 kill -TERM $pid
 wait $pid
 fact exit-2 $?
+
+# Without the star files the window says which is missing and where it was looked for, and
+# the program ends when the message is closed.
+mkdir -p empty-data
+ORBISCOPE_DATA="$PWD/empty-data" "$app" > app-out-3.txt 2> app-err-3.txt &
+pid=$!
+wait_window Orbiscope shown 300
+sleep 2
+shot no-data.png
+fact no-data-box "$(convert no-data.png -crop 400x300+440+360 +repage -fill black \
+    +opaque 'rgb(240,240,240)' -fill white -opaque 'rgb(240,240,240)' \
+    -format '%[fx:round(mean*w*h)]' info:)"
+keys Return
+i=0
+while kill -0 $pid 2> /dev/null && [ $i -lt 100 ]; do sleep 0.1; i=$((i + 1)); done
+kill -KILL $pid 2> /dev/null
+wait $pid
+fact exit-3 $?
