@@ -16,13 +16,18 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cmath>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <mutex>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "shell/OrbiscopeEntry.h"
@@ -37,6 +42,8 @@ constexpr int kExitUsage = 2;
 constexpr int kFrameWidth = 1024;
 constexpr int kFrameHeight = 768;
 constexpr int kLargestSide = 8192;
+// How long the display may take to answer.
+constexpr std::chrono::seconds kDisplayWait(5);
 
 void PrintUsage(std::FILE* out)
 {
@@ -48,7 +55,10 @@ void PrintUsage(std::FILE* out)
         "  orbiscope [COMMAND]\n"
         "      Opens the planetarium in a window on the display. COMMAND is a command\n"
         "      string for the component as a host hands it over, such as a bookmark's\n"
-        "      \"FullState=1 AstroNoxWindow=<...>\".\n"
+        "      \"FullState=1 AstroNoxWindow=<...>\", or stringref=Planet,Mars.\n"
+        "      The first start asks for your place. In the window the Menu button at the\n"
+        "      top right (or F10, or a right click on the strip) holds every command, and\n"
+        "      F1 opens the help page.\n"
         "\n"
         "  orbiscope render --out FILE [options] [COMMAND]\n"
         "      Draws one frame of the sky without a display and writes it to FILE as a PNG\n"
@@ -58,19 +68,22 @@ void PrintUsage(std::FILE* out)
         "        --size WxH        its size in pixels (default %dx%d)\n"
         "        --time \"YYYY-MM-DD HH:MM[:SS]\"\n"
         "                          the moment shown, in Universal Time (default: now)\n"
-        "        --center RA,DEC   look at RA and Dec, in degrees, with north up (default:\n"
-        "                          the map's own view from San Francisco, east and 30\n"
-        "                          degrees up)\n"
+        "        --center RA,DEC   look at RA and Dec, in degrees, with north up\n"
         "        --location LAT,LON  look from this place on the Earth, in degrees north and\n"
         "                          east (a place west or south is negative); the view turns\n"
         "                          with the sky and shows the horizon\n"
         "        --look AZ,ALT     look from the ground this way: a compass bearing (0 north,\n"
         "                          90 east) and an altitude in degrees; the view is raised\n"
-        "                          until its field clears the horizon (default: south, 30)\n"
+        "                          until its field clears the horizon\n"
         "        --radius DEG      degrees from the centre to the nearer edge, above 0 and\n"
-        "                          at most 90 (default 20)\n"
+        "                          at most 90\n"
         "        --grid            show the grid of right ascension and declination\n"
-        "        --limit MAG       show stars down to this magnitude (default 6)\n"
+        "        --limit MAG       show stars down to this magnitude\n"
+        "      What no option gives is the planetarium's own start: the view kept when a\n"
+        "      place was last set in the window, or else a view from San Francisco looking\n"
+        "      east, 30 degrees up, 20 degrees in radius, with stars down to magnitude 6.\n"
+        "      --location alone keeps the direction of that view; --look alone its place.\n"
+        "      Neither command writes anything of the settings kept in the window.\n"
         "\n"
         "  orbiscope print --out FILE [options] [COMMAND]\n"
         "      Prints a star chart of the view without a display into FILE as a PDF: the\n"
@@ -476,7 +489,17 @@ int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
         return kExitFailure;
     }
     const OrbiscopeHostKit& kit = *component->Kit;
-    char reason[256] = {};
+    // A picture or a chart shows the settings kept in the window and changes none of them.
+    kit.KeepSettings(0);
+    char reason[1024] = {};
+    if (!kit.CheckData(reason, sizeof reason)) {
+        std::fprintf(stderr, "orbiscope %s: %s\n", command, reason);
+        return kExitFailure;
+    }
+    if (!kit.CheckCommand(request.Command.c_str(), &request.View, reason, sizeof reason)) {
+        std::fprintf(stderr, "orbiscope %s: cannot use the command string: %s\n", command, reason);
+        return kExitUsage;
+    }
     kit.OpenDesktop(0, reason, sizeof reason);
 
     // A picture: the frame is as much larger than the picture as the bezel round the map
@@ -494,15 +517,16 @@ int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
         status = kExitFailure;
     } else {
         kit.SetView(map, &request.View);
+        int width = 0;
+        int height = 0;
         const bool written = making == Making::Picture
-                                 ? kit.SaveMapPicture(map, request.Out.c_str())
+                                 ? kit.SaveMapPicture(map, request.Out.c_str(), &width, &height)
                                  : kit.PrintChart(map, request.Out.c_str(), request.Paper);
         if (!written) {
             std::fprintf(stderr, "orbiscope %s: cannot write %s\n", command, request.Out.c_str());
             status = kExitFailure;
         } else if (making == Making::Picture) {
-            std::printf("orbiscope: wrote %s (%dx%d)\n", request.Out.c_str(), request.Width,
-                        request.Height);
+            std::printf("orbiscope: wrote %s (%dx%d)\n", request.Out.c_str(), width, height);
         } else {
             std::printf("orbiscope: wrote %s (%s)\n", request.Out.c_str(),
                         request.Paper == 0 ? "A4" : "Letter");
@@ -520,6 +544,35 @@ bool HasDisplay()
     const char* x = std::getenv("DISPLAY");
     const char* wayland = std::getenv("WAYLAND_DISPLAY");
     return (x && *x) || (wayland && *wayland);
+}
+
+// Opens the display, or ends the program with a message when the display has not answered
+// within kDisplayWait: a display that cannot be reached must not leave the user waiting.
+bool OpenDisplay(const OrbiscopeHostKit& kit, char* reason, std::size_t size)
+{
+    std::mutex lock;
+    std::condition_variable answered;
+    bool done = false;
+    std::thread watch([&] {
+        std::unique_lock<std::mutex> held(lock);
+        if (!answered.wait_for(held, kDisplayWait, [&] { return done; })) {
+            const char* display = std::getenv("DISPLAY");
+            std::fprintf(stderr,
+                         "orbiscope: the display \"%s\" does not answer (waited %lld seconds).\n"
+                         "To draw the sky into a picture instead:\n"
+                         "  orbiscope render --out sky.png\n",
+                         display ? display : "", static_cast<long long>(kDisplayWait.count()));
+            std::_Exit(kExitFailure);
+        }
+    });
+    const bool opened = kit.OpenDesktop(1, reason, size) != 0;
+    {
+        std::lock_guard<std::mutex> held(lock);
+        done = true;
+    }
+    answered.notify_one();
+    watch.join();
+    return opened;
 }
 
 int RunOnDisplay(const std::vector<std::string>& args)
@@ -541,8 +594,15 @@ int RunOnDisplay(const std::vector<std::string>& args)
         return kExitFailure;
     }
     const OrbiscopeHostKit& kit = *component->Kit;
-    char reason[256] = {};
-    if (!kit.OpenDesktop(1, reason, sizeof reason)) {
+    const std::string command = Join(args);
+    char missing[1024] = {};
+    const bool data = kit.CheckData(missing, sizeof missing) != 0;
+    char reason[1024] = {};
+    if (data && !kit.CheckCommand(command.c_str(), nullptr, reason, sizeof reason)) {
+        std::fprintf(stderr, "orbiscope: cannot use the command string: %s\n", reason);
+        return kExitUsage;
+    }
+    if (!OpenDisplay(kit, reason, sizeof reason)) {
         std::fprintf(stderr,
                      "orbiscope: cannot open the display: %s\n"
                      "To draw the sky into a picture instead:\n"
@@ -550,8 +610,17 @@ int RunOnDisplay(const std::vector<std::string>& args)
                      reason);
         return kExitFailure;
     }
-    const std::uint32_t frame = kit.CreateFrame("Orbiscope", kFrameWidth, kFrameHeight);
-    if (!frame || !component->Entry(ToHandle(frame), Join(args).c_str())) {
+    const std::uint32_t frame = kit.CreateMainWindow("Orbiscope", kFrameWidth, kFrameHeight);
+    if (frame && !data) {
+        // Said in the window too, where the user looks for the sky.
+        std::fprintf(stderr, "orbiscope: %s\n", missing);
+        kit.ShowMessage(frame, missing);
+        kit.DestroyFrame(frame);
+        kit.CloseDesktop();
+        return kExitFailure;
+    }
+    const std::uint32_t map = frame ? component->Entry(ToHandle(frame), command.c_str()) : 0;
+    if (!map) {
         std::fprintf(stderr, "orbiscope: the planetarium did not start\n");
         if (frame) {
             kit.DestroyFrame(frame);
@@ -559,6 +628,7 @@ int RunOnDisplay(const std::vector<std::string>& args)
         kit.CloseDesktop();
         return kExitFailure;
     }
+    kit.AttachComponent(frame, map);
     int status = kit.RunMessageLoop();
     kit.DestroyFrame(frame);
     kit.CloseDesktop();
@@ -595,6 +665,42 @@ int RunSkyhunt()
     return status;
 }
 
+// The distance of two words in letters put in, left out or changed.
+std::size_t EditDistance(const std::string& a, const std::string& b)
+{
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j) {
+        row[j] = j;
+    }
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t above = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (a[i - 1] != b[j - 1])});
+            diagonal = above;
+        }
+    }
+    return row[b.size()];
+}
+
+// A first word that is no command and no part of a command string: a command mistyped.
+int UnknownCommand(const std::string& word)
+{
+    std::string guess;
+    for (const char* known : {"render", "print", "skyhunt"}) {
+        if (EditDistance(word, known) <= 2) {
+            guess = std::string(" (did you mean ") + known + "?)";
+        }
+    }
+    std::fprintf(
+        stderr,
+        "orbiscope: unknown command \"%s\"%s; the commands are render, print and skyhunt, and "
+        "a command string holds key=value words (see orbiscope --help)\n",
+        word.c_str(), guess.c_str());
+    return kExitUsage;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -627,6 +733,11 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "orbiscope: unknown option %s\n\n", args[0].c_str());
         PrintUsage(stderr);
         return kExitUsage;
+    }
+    // A command string's words are key=value pairs; only the module word of a bookmark,
+    // "orbiscope", may stand before them.
+    if (!args.empty() && args[0].find('=') == std::string::npos && args[0] != "orbiscope") {
+        return UnknownCommand(args[0]);
     }
     return RunOnDisplay(args);
 }

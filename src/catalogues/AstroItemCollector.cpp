@@ -171,6 +171,13 @@ StarCatalogue* AstroItemCollector::ChooseStarCatalogue(double limitingMagnitude)
     return chosen;
 }
 
+std::vector<std::string> AstroItemCollector::GetProfileStarFiles()
+{
+    const HostProf& profile = HostProfile();
+    return {profile.Get(kSection, "BrightCat", "ed:\\bright.bin"),
+            profile.Get(kSection, "LargeStarCatalogueFile", "cd:\\win32\\stars.bin")};
+}
+
 void AstroItemCollector::CreateStarCatalogues()
 {
     if (bFileCataloguesMade) {
@@ -178,10 +185,7 @@ void AstroItemCollector::CreateStarCatalogues()
     }
     bFileCataloguesMade = true;
     if (StarCatalogueFiles.empty()) {
-        const HostProf& profile = HostProfile();
-        StarCatalogueFiles.push_back(profile.Get(kSection, "BrightCat", "ed:\\bright.bin"));
-        StarCatalogueFiles.push_back(
-            profile.Get(kSection, "LargeStarCatalogueFile", "cd:\\win32\\stars.bin"));
+        StarCatalogueFiles = GetProfileStarFiles();
     }
     // Before any catalogue the user loaded earlier.
     auto place = StarCatalogues.begin();

@@ -102,6 +102,8 @@ public:
     // The catalogues, star files first in the order of their names, then the user's.
     const PointerVector<StarCatalogue>& GetStarCatalogues() const { return StarCatalogues; }
     const std::vector<std::string>& GetStarCatalogueFiles() const { return StarCatalogueFiles; }
+    // The star files the profile names, as logical paths, in the order they are used.
+    static std::vector<std::string> GetProfileStarFiles();
     StarCatalogue* GetUserCatalogue() const { return pUserCatalogue; }
 
 private:

@@ -6,6 +6,8 @@
 
 #include "platform/WinTypes.h"
 
+// A popup item may carry a command id too: the command of a fly-out entry whose sub-menu is
+// filled when it opens (see MenuTemplateItem::FlyOut).
 struct MenuItem
 {
     UINT Flags = MF_STRING;
@@ -17,6 +19,8 @@ struct MenuItem
     bool IsPopup() const { return (Flags & MF_POPUP) != 0; }
     bool IsEnabled() const { return !(Flags & (MF_GRAYED | MF_DISABLED)); }
     bool IsChecked() const { return (Flags & MF_CHECKED) != 0; }
+    // A popup item with items to show; an empty one acts as its command.
+    bool OpensSubMenu() const;
 };
 
 class MenuData

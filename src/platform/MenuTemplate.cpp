@@ -3,6 +3,7 @@
 #include <map>
 
 #include "catalogues/LorvString.h"
+#include "platform/MenuData.h"
 #include "platform/TMenu.h"
 
 namespace {
@@ -20,6 +21,7 @@ void Fill(HMENU menu, const std::vector<MenuTemplateItem>& items)
             HMENU popup = CreatePopupMenu();
             Fill(popup, item.Popup);
             AppendMenuA(menu, item.Flags, reinterpret_cast<UINT_PTR>(popup), item.Text.c_str());
+            MenuData::Find(menu)->Items.back().Id = item.Id;
         } else {
             AppendMenuA(menu, item.Flags, item.Id, item.Text.c_str());
         }
@@ -42,6 +44,11 @@ MenuTemplateItem MenuTemplateItem::SubMenu(const std::string& text,
                                            std::vector<MenuTemplateItem> items)
 {
     return MenuTemplateItem{text, 0, MF_POPUP, std::move(items)};
+}
+
+MenuTemplateItem MenuTemplateItem::FlyOut(const std::string& text, UINT id)
+{
+    return MenuTemplateItem{text, id, MF_POPUP, {}};
 }
 
 void AddMenuResource(const TResId& id, MenuTemplate menuTemplate)

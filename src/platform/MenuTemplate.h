@@ -18,6 +18,10 @@ struct MenuTemplateItem
     static MenuTemplateItem Command(const std::string& text, UINT id, UINT flags = MF_STRING);
     static MenuTemplateItem Separator();
     static MenuTemplateItem SubMenu(const std::string& text, std::vector<MenuTemplateItem> items);
+    // An item that opens a sub-menu which its command fills when it is about to show: a popup
+    // item with no items of its own that carries the command id, as an extended menu resource
+    // gives a popup an id. A menu that nobody fills shows it as a plain command.
+    static MenuTemplateItem FlyOut(const std::string& text, UINT id);
 };
 
 struct MenuTemplate

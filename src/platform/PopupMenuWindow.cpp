@@ -240,8 +240,8 @@ void PopupMenuWindow::OpenSub(int position)
     }
     CloseSub();
     const auto& items = Items();
-    if (position < 0 || position >= int(items.size()) || !items[std::size_t(position)].IsPopup() ||
-        !items[std::size_t(position)].IsEnabled()) {
+    if (position < 0 || position >= int(items.size()) ||
+        !items[std::size_t(position)].OpensSubMenu() || !items[std::size_t(position)].IsEnabled()) {
         return;
     }
     TRect row = GetItemRect(position);
@@ -285,7 +285,7 @@ LRESULT PopupMenuWindow::DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
         bool usable = position >= 0 && !items[std::size_t(position)].IsSeparator() &&
                       items[std::size_t(position)].IsEnabled();
         menu->SetHighlight(usable ? position : -1);
-        if (usable && items[std::size_t(position)].IsPopup()) {
+        if (usable && items[std::size_t(position)].OpensSubMenu()) {
             menu->OpenSub(position);
         } else if (position >= 0 && position != menu->nSubPosition) {
             menu->CloseSub();
@@ -312,7 +312,7 @@ LRESULT PopupMenuWindow::DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
         if (item.IsSeparator() || !item.IsEnabled()) {
             return 0;
         }
-        if (item.IsPopup()) {
+        if (item.OpensSubMenu()) {
             menu->OpenSub(position);
         } else {
             Choose(item.Id);
@@ -328,7 +328,7 @@ LRESULT PopupMenuWindow::DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
         PopupMenuWindow& deepest = Deepest();
         const auto& items = deepest.Items();
         int at = deepest.nHighlight;
-        bool onPopup = at >= 0 && items[std::size_t(at)].IsPopup();
+        bool onPopup = at >= 0 && items[std::size_t(at)].OpensSubMenu();
         switch (wParam) {
         case VK_DOWN:
             deepest.StepHighlight(1);
@@ -374,7 +374,7 @@ LRESULT PopupMenuWindow::DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
         char c = char(std::tolower(static_cast<unsigned char>(wParam)));
         for (std::size_t i = 0; i < items.size(); ++i) {
             if (items[i].IsEnabled() && !items[i].IsSeparator() && Mnemonic(items[i].Text) == c) {
-                if (items[i].IsPopup()) {
+                if (items[i].OpensSubMenu()) {
                     deepest.SetHighlight(int(i));
                     deepest.OpenSub(int(i));
                 } else {
@@ -433,7 +433,7 @@ void PopupMenuWindow::Paint(TDC& dc, bool, TRect&)
                        DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX)
                 .Draw(dc, label);
         }
-        if (item.IsPopup()) {
+        if (item.OpensSubMenu()) {
             ControlLook::DrawRightArrow(
                 dc, TRect(row.right - kArrowColumn, row.top, row.right, row.bottom), text);
         }

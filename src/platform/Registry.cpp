@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include <unistd.h>
+
 #include "host/SettingsStore.h"
 #include "host/UserConfigDirectory.h"
 
@@ -31,6 +33,7 @@ struct RegistryState
     std::unique_ptr<SettingsStore> pStore;
     std::map<std::uintptr_t, OpenKey> Handles;
     std::uintptr_t NextHandle = 0x1000;
+    bool bReadOnly = false;
 };
 
 RegistryState& State()
@@ -39,16 +42,21 @@ RegistryState& State()
     return state;
 }
 
-std::string StoreFile()
+std::string StoreFile(bool create)
 {
-    return UserConfigDirectory(true) + "/registry.db";
+    return UserConfigDirectory(create) + "/registry.db";
 }
 
 // The store for the current configuration directory, opened or reopened as needed; null when
 // it cannot be opened.
 SettingsStore* Store(RegistryState& state)
 {
-    std::string file = StoreFile();
+    std::string file = StoreFile(!state.bReadOnly);
+    if (state.bReadOnly && (!state.pStore || state.pStore->GetFile() != file) &&
+        ::access(file.c_str(), F_OK) != 0) {
+        state.pStore.reset();
+        return nullptr;
+    }
     if (!state.pStore || state.pStore->GetFile() != file) {
         state.Handles.clear();
         state.pStore = std::make_unique<SettingsStore>(file);
@@ -147,11 +155,13 @@ struct Call
     OpenKey Key;
     LONG Error = ERROR_SUCCESS;
 
-    Call(HKEY key, REGSAM needed, LONG storeError) : Guard(State().Lock)
+    Call(HKEY key, REGSAM needed, LONG storeError, bool writes = false) : Guard(State().Lock)
     {
         RegistryState& state = State();
-        pStore = Store(state);
-        if (pStore == nullptr) {
+        pStore = writes && state.bReadOnly ? nullptr : Store(state);
+        if (writes && state.bReadOnly) {
+            Error = ERROR_ACCESS_DENIED;
+        } else if (pStore == nullptr) {
             Error = storeError;
         } else if (!Resolve(state, key, Key)) {
             Error = ERROR_INVALID_HANDLE;
@@ -176,11 +186,19 @@ LONG RegCreateKeyExA(HKEY key, const char* subKey, DWORD /*reserved*/, char* /*c
     *result = nullptr;
     Call call(key, KEY_CREATE_SUB_KEY, ERROR_CANTWRITE);
     if (call.Error != ERROR_SUCCESS) {
-        return call.Error;
+        return State().bReadOnly ? ERROR_ACCESS_DENIED : call.Error;
     }
     SettingsStore::KeyId opened = 0;
     bool created = false;
-    Status status = call.pStore->CreatePath(call.Key.Key, SplitPath(subKey), opened, created);
+    Status status = Status::Ok;
+    if (State().bReadOnly) {
+        // Only what is there opens.
+        if (call.pStore->OpenPath(call.Key.Key, SplitPath(subKey), opened) != Status::Ok) {
+            return ERROR_ACCESS_DENIED;
+        }
+    } else {
+        status = call.pStore->CreatePath(call.Key.Key, SplitPath(subKey), opened, created);
+    }
     if (status != Status::Ok) {
         return ErrorOf(status, ERROR_CANTWRITE);
     }
@@ -250,7 +268,7 @@ LONG RegSetValueExA(HKEY key, const char* valueName, DWORD /*reserved*/, DWORD t
     if (data == nullptr && size > 0) {
         return ERROR_INVALID_PARAMETER;
     }
-    Call call(key, KEY_SET_VALUE, ERROR_CANTWRITE);
+    Call call(key, KEY_SET_VALUE, ERROR_CANTWRITE, true);
     if (call.Error != ERROR_SUCCESS) {
         return call.Error;
     }
@@ -308,7 +326,7 @@ LONG RegDeleteKeyA(HKEY key, const char* subKey)
     if (subKey == nullptr) {
         return ERROR_INVALID_PARAMETER;
     }
-    Call call(key, 0, ERROR_CANTWRITE);
+    Call call(key, 0, ERROR_CANTWRITE, true);
     if (call.Error != ERROR_SUCCESS) {
         return call.Error;
     }
@@ -317,12 +335,19 @@ LONG RegDeleteKeyA(HKEY key, const char* subKey)
 
 LONG RegDeleteValueA(HKEY key, const char* valueName)
 {
-    Call call(key, KEY_SET_VALUE, ERROR_CANTWRITE);
+    Call call(key, KEY_SET_VALUE, ERROR_CANTWRITE, true);
     if (call.Error != ERROR_SUCCESS) {
         return call.Error;
     }
     return ErrorOf(call.pStore->DeleteValue(call.Key.Key, valueName ? valueName : ""),
                    ERROR_CANTWRITE);
+}
+
+void SetRegistryReadOnly(bool readOnly)
+{
+    RegistryState& state = State();
+    std::lock_guard<std::mutex> guard(state.Lock);
+    state.bReadOnly = readOnly;
 }
 
 void CloseRegistryStore()

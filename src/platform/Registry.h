@@ -100,6 +100,12 @@ LONG RegCloseKey(HKEY key);
 LONG RegDeleteKeyA(HKEY key, const char* subKey);
 LONG RegDeleteValueA(HKEY key, const char* valueName);
 
+// In read-only mode nothing is written and no store is made where there is none: keys that
+// exist open as usual, and every call that would create, change or delete something gives
+// ERROR_ACCESS_DENIED. Programs that only show the user's settings (drawing a picture from the
+// command line) use it.
+void SetRegistryReadOnly(bool readOnly);
+
 // Closes the store and every open handle. The next call opens it again. A process closes it
 // before it forks, so that parent and child never share a database connection.
 void CloseRegistryStore();

@@ -359,6 +359,15 @@ bool TDialog::PreProcessMsg(MSG& msg)
         bSwallowChar = true;
         SendMessage(WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
         return true;
+    case VK_F1: {
+        // F1 asks for the help that the dialog's Help button gives.
+        TWindow* help = ChildWithId(IDHELP);
+        if (!help || !help->IsWindowEnabled()) {
+            return false;
+        }
+        help->SendMessage(BM_CLICK);
+        return true;
+    }
     default:
         return false;
     }

@@ -11,7 +11,8 @@
 //
 // Keys: Tab and Shift+Tab move the focus through the controls with WS_TABSTOP, Enter presses
 // the focused push button or else the default button (command IDOK when there is none),
-// Escape gives command IDCANCEL. CmOk closes with IDOK when CanClose agrees, CmCancel with
+// Escape gives command IDCANCEL, F1 presses the Help button (id IDHELP) when there is one.
+// CmOk closes with IDOK when CanClose agrees, CmCancel with
 // IDCANCEL; closing the window is CmCancel.
 #include <string>
 #include <vector>

@@ -38,6 +38,12 @@ MenuItem MakeItem(UINT flags, UINT_PTR idOrPopup, const char* text)
 
 } // namespace
 
+bool MenuItem::OpensSubMenu() const
+{
+    const MenuData* sub = IsPopup() ? MenuData::Find(Popup) : nullptr;
+    return sub && !sub->Items.empty();
+}
+
 HMENU MenuData::Create(bool popup)
 {
     std::uintptr_t number = NextMenuNumber();
@@ -149,7 +155,12 @@ BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR idOrPopup, const ch
     if (!MenuData::Locate(menu, item, flags, owner, index)) {
         return FALSE;
     }
-    owner->Items[index] = MakeItem(flags, idOrPopup, text);
+    MenuItem changed = MakeItem(flags, idOrPopup, text);
+    const MenuItem& before = owner->Items[index];
+    if (changed.IsPopup() && before.IsPopup() && changed.Popup == before.Popup) {
+        changed.Id = before.Id;
+    }
+    owner->Items[index] = changed;
     return TRUE;
 }
 
@@ -256,6 +267,22 @@ HMENU GetSubMenu(HMENU menu, int position)
     }
     const MenuItem& item = data->Items[std::size_t(position)];
     return item.IsPopup() ? item.Popup : nullptr;
+}
+
+HMENU DuplicateMenu(HMENU menu)
+{
+    const MenuData* data = MenuData::Find(menu);
+    if (!data) {
+        return nullptr;
+    }
+    HMENU copy = MenuData::Create(data->bPopup);
+    for (MenuItem item : data->Items) {
+        if (item.IsPopup()) {
+            item.Popup = DuplicateMenu(item.Popup);
+        }
+        MenuData::Find(copy)->Items.push_back(item);
+    }
+    return copy;
 }
 
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int, HWND owner, const RECT*)

@@ -67,6 +67,8 @@ UINT GetMenuItemID(HMENU menu, int position);
 UINT GetMenuState(HMENU menu, UINT item, UINT flags);
 int GetMenuStringA(HMENU menu, UINT item, char* buffer, int size, UINT flags);
 HMENU GetSubMenu(HMENU menu, int position);
+// A new menu with copies of the items of `menu` and of its popups; null for no menu.
+HMENU DuplicateMenu(HMENU menu);
 // Shows a popup menu at a point of the screen until an item is chosen or the menu is left.
 // With TPM_RETURNCMD it returns the chosen id (0 for none); otherwise it posts WM_COMMAND with
 // the id to `owner` and returns whether one was chosen.

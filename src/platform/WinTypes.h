@@ -456,7 +456,10 @@ constexpr UINT VK_RIGHT = 0x27;
 constexpr UINT VK_DOWN = 0x28;
 constexpr UINT VK_INSERT = 0x2D;
 constexpr UINT VK_DELETE = 0x2E;
+constexpr UINT VK_APPS = 0x5D;
 constexpr UINT VK_F1 = 0x70;
+constexpr UINT VK_F10 = 0x79;
+constexpr UINT VK_F11 = 0x7A;
 
 // ShowWindow commands.
 constexpr int SW_HIDE = 0;

@@ -26,6 +26,13 @@ public:
     virtual void ShowNativeWindow(HWND window, bool visible) = 0;
     virtual void MoveNativeWindow(HWND window, const TRect& screenRect) = 0;
     virtual void SetNativeTitle(HWND window, const std::string& title) = 0;
+    // Lets the user resize a top-level window with the desktop's frame, down to `minimum`.
+    virtual void SetNativeResizable(HWND /*window*/, TSize /*minimum*/) {}
+    // A top-level window became the active one: it takes the keyboard on the desktop too.
+    virtual void ActivateNativeWindow(HWND /*window*/) {}
+    // Shows or takes away the desktop's frame and caption round a top-level window, as a
+    // window that fills the screen has none.
+    virtual void SetNativeBordered(HWND /*window*/, bool /*bordered*/) {}
     // Puts `area` of the window's surface (window coordinates) on the screen.
     virtual void Present(HWND window, const Surface& surface, const TRect& area) = 0;
 
@@ -44,4 +51,7 @@ public:
     // answers it here. Returns false when the backend has no answer and the loop should end
     // the window as cancelled.
     virtual bool ModalStarted(HWND window) = 0;
+    // The answer given at ModalStarted left the window open, and nothing more can come to
+    // close it: the loop ends it as cancelled. A scripted desktop counts it as a failure.
+    virtual void ModalLeftOpen(HWND /*window*/) {}
 };

@@ -280,6 +280,9 @@ int WindowSystem::RunModal(TWindow& window)
         if (!answered || !GetBackend().PumpEvents(wait)) {
             dbstream << "WindowSystem: no answer to the modal window \"" << window.GetWindowText()
                      << "\"; it is closed" << dbendl;
+            if (answered) {
+                GetBackend().ModalLeftOpen(handle);
+            }
             SendMessage(handle, WM_CLOSE, 0, 0);
             if (!done()) {
                 aModal[frame].bDone = true;
@@ -830,6 +833,7 @@ void WindowSystem::Activate(TWindow& topLevel)
     RaiseTopLevel(topLevel);
     if (previous != topLevel.HWindow) {
         hActive = topLevel.HWindow;
+        GetBackend().ActivateNativeWindow(topLevel.HWindow);
         if (previous) {
             SendMessage(previous, WM_ACTIVATE, WA_INACTIVE, LPARAM(topLevel.HWindow));
         }

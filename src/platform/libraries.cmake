@@ -33,3 +33,8 @@ target_link_libraries(orbiscope_core PUBLIC PkgConfig::SDL2)
 # Printed pages become PDF files through cairo, with their text in the fonts fontconfig finds.
 pkg_check_modules(ORBISCOPE_PRINTING REQUIRED IMPORTED_TARGET cairo cairo-pdf cairo-ft)
 target_link_libraries(orbiscope_core PUBLIC PkgConfig::ORBISCOPE_PRINTING)
+
+# On X the SDL backend makes an atom of the window managers' before its first window (see
+# SdlBackend.cpp), through Xlib, which SDL itself loads.
+pkg_check_modules(ORBISCOPE_X11 REQUIRED IMPORTED_TARGET x11)
+target_link_libraries(orbiscope_core PUBLIC PkgConfig::ORBISCOPE_X11)

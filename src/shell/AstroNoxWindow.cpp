@@ -15,19 +15,26 @@
 #include "host/HostBookmark.h"
 #include "host/HostCmdLine.h"
 #include "host/HostFile.h"
+#include "host/HostFlyMenu.h"
 #include "host/HostFrameAPI.h"
+#include "host/HostIcons.h"
+#include "host/HostMessages.h"
 #include "host/HostProf.h"
 #include "host/HostStringTable.h"
+#include "host/HostTitleBar.h"
+#include "host/HostWindowStrings.h"
 #include "host/UserConfigDirectory.h"
 #include "platform/TBrush.h"
 #include "platform/TDC.h"
 #include "platform/TGadgetWindowFont.h"
+#include "platform/TMenu.h"
 #include "platform/TPalette.h"
 #include "platform/WindowCalls.h"
 #include "projection/OrientationInfo.h"
 #include "projection/RotatingOrientationInfo.h"
 #include "shell/AnimationDialog.h"
 #include "shell/AstroFinderWindow.h"
+#include "shell/AstroMenuTemplates.h"
 #include "shell/GridDialog.h"
 #include "shell/LocationDialog.h"
 #include "shell/ObjectListDialog.h"
@@ -60,6 +67,18 @@ constexpr double kZoomInFactor = 0.75;
 constexpr double kZoomOutFactor = 4.0 / 3.0;
 constexpr double kNarrowestField = 0.1;
 constexpr double kWidestField = 90.0;
+
+// The title bar's font height in pixels, and the text of the host's table that the
+// full-screen entry shows in full-screen mode.
+constexpr int kTitleFontHeight = 13;
+constexpr short kHostStringTable = 1;
+constexpr short kExitFullScreenString = 0x0C82;
+
+// A check mark of the fly-out menu.
+UINT Checked(bool on)
+{
+    return on ? HostFlyMenu::kChecked : HostFlyMenu::kUnchecked;
+}
 
 // The status panel's font: 8 points, neither bold nor fixed.
 constexpr int kStatusFontPoints = 8;
@@ -123,6 +142,8 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         MsgRow<kNewBookmarkMessage, &AstroNoxWindow::WmuNewBookmark>(),
         MsgRow<kCreateBookmarkMessage, &AstroNoxWindow::WmuCreateBookmark>(),
         MsgRow<kCapabilityMessage, &AstroNoxWindow::WmuCapability>(),
+        MsgRow<kHostLoadFlyMenu, &AstroNoxWindow::WmuLoadFlyMenu>(),
+        MsgRow<kHostFlyMenuNotify, &AstroNoxWindow::WmuFlyMenuNotify>(),
         CmRow<kPrintCommand, &AstroNoxWindow::CmPrint>(),
         CmRow<kHostPrintCommand, &AstroNoxWindow::CmPrint>(),
         CmRow<kCmZoomIn, &AstroNoxWindow::CmZoomIn>(),
@@ -151,6 +172,10 @@ const TResponseRow* AstroNoxWindow::Find(const TEventInfo& event) const
         CmRow<kCmLocateMoon, &AstroNoxWindow::CmLocateMoon>(),
         CmRow<kCmDumpTimeZoneNames, &AstroNoxWindow::CmDumpTimeZoneNames>(),
         CmRow<kCmDisplayStars, &AstroNoxWindow::CmDisplayStars>(),
+        CmRow<kCmDisplayFlyout, &AstroNoxWindow::CmDisplayFlyout>(),
+        CmRow<kCmLocateFlyout, &AstroNoxWindow::CmLocateFlyout>(),
+        CmRow<kCmConstellationFlyout, &AstroNoxWindow::CmConstellationFlyout>(),
+        CmRow<kCmDevelopmentFlyout, &AstroNoxWindow::CmDevelopmentFlyout>(),
     };
     const TResponseRow* row = table.Find(event);
     return row ? row : TLayoutWindow::Find(event);
@@ -286,17 +311,7 @@ void AstroNoxWindow::HandleNameRef(const std::string& value)
     }
     const std::string name = *token;
 
-    AstroItemCollector& collector = pMap->GetCollector();
-    AstroCatalogue* catalogue = nullptr;
-    if (EqualNoCase(word, "Constellation")) {
-        catalogue = &collector.GetConstellationCatalogue();
-    } else if (EqualNoCase(word, "Star")) {
-        catalogue = collector.GetStarCatalogue();
-    } else if (EqualNoCase(word, "Planet")) {
-        catalogue = &collector.GetPlanetCatalogue();
-    } else if (EqualNoCase(word, "Messier")) {
-        catalogue = &collector.GetMessierCatalogue();
-    }
+    AstroCatalogue* catalogue = CatalogueOfWord(pMap->GetCollector(), word);
     if (!catalogue) {
         return;
     }
@@ -309,6 +324,24 @@ void AstroNoxWindow::HandleNameRef(const std::string& value)
             pMap->ShowObject(*object);
         }
     }
+}
+
+AstroCatalogue* AstroNoxWindow::CatalogueOfWord(AstroItemCollector& collector,
+                                                const std::string& word)
+{
+    if (EqualNoCase(word, "Constellation")) {
+        return &collector.GetConstellationCatalogue();
+    }
+    if (EqualNoCase(word, "Star")) {
+        return collector.GetStarCatalogue();
+    }
+    if (EqualNoCase(word, "Planet")) {
+        return &collector.GetPlanetCatalogue();
+    }
+    if (EqualNoCase(word, "Messier")) {
+        return &collector.GetMessierCatalogue();
+    }
+    return nullptr;
 }
 
 void AstroNoxWindow::HandleUidRef(const std::string& value)
@@ -405,16 +438,23 @@ StateContainer& AstroNoxWindow::operator>>(StateContainer& sc)
 
 // The default state.
 
+bool AstroNoxWindow::HasDefaultState(const std::string& root, const std::string& key)
+{
+    RegistryStateContainer state(root);
+    std::vector<std::string> names;
+    state.ListKeyNames(names);
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return EqualNoCase(name, key); });
+}
+
+bool AstroNoxWindow::HasDefaultState()
+{
+    return HasDefaultState(MakeStateRoot(), "Default");
+}
+
 bool AstroNoxWindow::RestoreDefaultState()
 {
-    RegistryStateContainer root(StateRoot);
-    std::vector<std::string> names;
-    root.ListKeyNames(names);
-    bool found = false;
-    for (const std::string& name : names) {
-        found = found || EqualNoCase(name, DefaultKey);
-    }
-    if (!found) {
+    if (!HasDefaultState(StateRoot, DefaultKey)) {
         return false;
     }
     RegistryStateContainer state(StateRoot + "\\" + DefaultKey);
@@ -433,9 +473,138 @@ void AstroNoxWindow::SaveAsDefaultState()
 
 void AstroNoxWindow::MakeDefaultState()
 {
-    // A first start has no place yet. Without a location name nothing is written, so the
-    // next start begins anew as well.
+    // The first start asks for the place. Cancelled, the map has no location name, nothing is
+    // written and the next start asks again.
+    CmSetLocation();
     SaveAsDefaultState();
+}
+
+void AstroNoxWindow::SaveInRegistryState(const std::string& key)
+{
+    RegistryStateContainer sc(key);
+    sc << AstroKey("AstroNOXWindow") << *this;
+}
+
+void AstroNoxWindow::RestoreFromRegistryState(const std::string& key)
+{
+    RegistryStateContainer sc(key);
+    sc >> AstroKey("AstroNOXWindow") >> *this;
+}
+
+// The host's fly-out menu.
+
+LRESULT AstroNoxWindow::AskHost(UINT message)
+{
+    TWindow* host = GetParentO();
+    return host && host->HWindow ? host->SendMessage(message) : 0;
+}
+
+LRESULT AstroNoxWindow::WmuLoadFlyMenu(WPARAM, LPARAM)
+{
+    if (auto* titleBar = reinterpret_cast<HostTitleBar*>(AskHost(kHostTitleBarQuery))) {
+        titleBar->Initialize(GetHostIcon(kBookmarkType, 0),
+                             getHostString(kStringTable, kTitleString), kTitleFontHeight, 0);
+    }
+    LoadFlyoutMenu();
+    return 1;
+}
+
+LRESULT AstroNoxWindow::WmuFlyMenuNotify(WPARAM, LPARAM)
+{
+    LoadFlyoutMenu();
+    return 0;
+}
+
+void AstroNoxWindow::LoadFlyoutMenu()
+{
+    auto* fly = reinterpret_cast<HostFlyMenu*>(AskHost(kHostFlyMenuQuery));
+    if (!fly) {
+        return;
+    }
+    AstroMenuTemplates::Register();
+    TMenu menu(GetModule(), TResId(AstroMenuTemplates::kMainMenu));
+    replaceHostMenuStrings(kStringTable, menu);
+    fly->InitEntries(menu, 0, 0);
+    if (IsFullScreen()) {
+        fly->Change(kHostFullScreenCommand, 0, kHostExitFullScreenCommand,
+                    getHostString(kHostStringTable, kExitFullScreenString));
+    }
+    if (!HostProfile().GetBool("Orbiscope", "DevMode", false)) {
+        fly->Delete(kCmDumpTimeZoneNames, 0);
+    }
+}
+
+HostFlyMenu* AstroNoxWindow::LoadFlyout(int level, int menuId, bool replaceStrings)
+{
+    auto* fly = reinterpret_cast<HostFlyMenu*>(AskHost(kHostFlyMenuQuery));
+    HostFlyMenu* sub = fly ? fly->CreateSubMenu(level) : nullptr;
+    if (!sub) {
+        return nullptr;
+    }
+    AstroMenuTemplates::Register();
+    TMenu menu(GetModule(), TResId(menuId));
+    if (replaceStrings) {
+        replaceHostMenuStrings(kStringTable, menu);
+    }
+    sub->InitEntries(menu, 0, 0);
+    return sub;
+}
+
+void AstroNoxWindow::CmDisplayFlyout()
+{
+    HostFlyMenu* sub = LoadFlyout(1, AstroMenuTemplates::kDisplayMenu, true);
+    if (!sub) {
+        return;
+    }
+    sub->SetCheckMark(kCmDisplayMessierLabels, Checked(pMap->IsShowingMessier()));
+    sub->SetCheckMark(kCmDisplayComets, Checked(pMap->IsShowingComets()));
+    sub->SetCheckMark(kCmDisplayPlanets,
+                      Checked(pMap->GetCollector().GetPlanetCatalogue().GetOptions().bShowLabels));
+    sub->SetCheckMark(kCmDisplayBelowHorizon, Checked(!pMap->IsClippedAtHorizon()));
+    sub->SetCheckMark(kCmDisplayLocatorControls, Checked(pFinder != nullptr));
+    if (!IsFullScreen()) {
+        sub->Delete(kCmDisplayLocatorControls, 0);
+    }
+    sub->Display(TPoint(HostFlyMenu::kBesideEntry, HostFlyMenu::kBesideEntry));
+}
+
+void AstroNoxWindow::CmLocateFlyout()
+{
+    if (HostFlyMenu* sub = LoadFlyout(1, AstroMenuTemplates::kLocateMenu, true)) {
+        sub->Display(TPoint(HostFlyMenu::kBesideEntry, HostFlyMenu::kBesideEntry));
+    }
+}
+
+void AstroNoxWindow::CmConstellationFlyout()
+{
+    HostFlyMenu* sub = LoadFlyout(2, AstroMenuTemplates::kConstellationMenu, true);
+    if (!sub) {
+        return;
+    }
+    const ConstellationSettings settings = pMap->GetConstellationSettings();
+    sub->SetCheckMark(kCmDisplayConstellationLabels, Checked(settings.bShowLabels));
+    sub->SetCheckMark(kCmDisplayConstellationFigures, Checked(settings.bShowFigures));
+    sub->SetCheckMark(kCmDisplayConstellationBoundaries, Checked(settings.bShowBoundaries));
+    sub->Display(TPoint(HostFlyMenu::kBesideEntry, HostFlyMenu::kBesideEntry));
+}
+
+void AstroNoxWindow::CmDevelopmentFlyout()
+{
+    // The developer's menu speaks in words of its own: its strings are not replaced.
+    if (HostFlyMenu* sub = LoadFlyout(1, AstroMenuTemplates::kDevelopmentMenu, false)) {
+        sub->Display(TPoint(HostFlyMenu::kBesideEntry, HostFlyMenu::kBesideEntry));
+    }
+}
+
+void AstroNoxWindow::ScrollMap(int direction)
+{
+    if (direction == 0) {
+        pMap->StopScrolling();
+        return;
+    }
+    AstroScrollInfo info = pMap->GetScrollInfo();
+    info.SetDirection(direction);
+    pMap->Scroll(info);
 }
 
 // The side panels.

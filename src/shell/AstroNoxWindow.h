@@ -33,9 +33,11 @@
 #include "catalogues/AstroCatalogue.h"
 #include "platform/TLayoutWindow.h"
 
+class AstroItemCollector;
 class AstroFinderWindow;
 class AstroStatusWindow;
 class HostBookmark;
+class HostFlyMenu;
 class MapWindow;
 class StateContainer;
 
@@ -83,6 +85,11 @@ public:
     static constexpr UINT kCmLocateMoon = 25028;
     static constexpr UINT kCmDumpTimeZoneNames = 25032;
     static constexpr UINT kCmDisplayStars = 25011;
+    // Commands that open the fly-outs of the host's menu.
+    static constexpr UINT kCmDisplayFlyout = 25000;
+    static constexpr UINT kCmLocateFlyout = 25001;
+    static constexpr UINT kCmConstellationFlyout = 25009;
+    static constexpr UINT kCmDevelopmentFlyout = 25023;
     // The file, in the user's configuration directory, that the zone names are written to.
     static constexpr const char* kTimeZoneDumpFile = "TimeZoneDump.txt";
     // The word of the planetarium's bookmarks and icon in the host.
@@ -103,11 +110,37 @@ public:
     void HandleNameRef(const std::string& value);
     // Shows the object of the uid.
     void HandleUidRef(const std::string& value);
+    // The catalogue of a word of a "stringref" (Constellation, Star, Planet, Messier, in any
+    // case); null for another word.
+    static AstroCatalogue* CatalogueOfWord(AstroItemCollector& collector, const std::string& word);
 
-    // The default state. Restore is false when the settings store has none.
+    // The default state. Restore is false when the settings store has none. Make asks for
+    // the place (the first start) and keeps it; a cancelled dialog keeps nothing, so that
+    // the next start asks again.
     bool RestoreDefaultState();
+    // Whether the settings store holds a default state yet: without one the next start asks
+    // for the place.
+    static bool HasDefaultState();
     void SaveAsDefaultState();
     void MakeDefaultState();
+    // The whole window's state at a key of the settings store (a path below
+    // HKEY_LOCAL_MACHINE), under "AstroNOXWindow".
+    void SaveInRegistryState(const std::string& key);
+    void RestoreFromRegistryState(const std::string& key);
+
+    // The host's fly-out menu (see AstroMenuTemplates): the main menu, with the full-screen
+    // entry turned into its opposite in full-screen mode and the time zone dump only in the
+    // developer's mode ("DevMode" in section "Orbiscope"); and the fly-outs of its entries,
+    // each with the check marks of the moment. Nothing happens when the host has no menu.
+    void LoadFlyoutMenu();
+    void CmDisplayFlyout();
+    void CmLocateFlyout();
+    void CmConstellationFlyout();
+    void CmDevelopmentFlyout();
+
+    // Scrolls the map's view in a direction of AstroScrollInfo, at the step and pace the map
+    // scrolls at, until it is called with 0.
+    void ScrollMap(int direction);
 
     // Shows or hides the Messier objects and keeps the choice as the default.
     void SetMessierObjectsDisplay(bool show);
@@ -198,6 +231,11 @@ public:
     LRESULT WmuCreateBookmark(WPARAM, LPARAM);
     // The LPARAM is a std::string* with an article reference, which goes to the host's frame.
     LRESULT WmuObjectSelected(WPARAM, LPARAM reference);
+    // The host asks for the fly-out menu: the title bar gets the icon and the title, and the
+    // menu is loaded. Returns 1.
+    LRESULT WmuLoadFlyMenu(WPARAM, LPARAM);
+    // An entry of the fly-out was chosen: the menu is loaded again. Returns 0.
+    LRESULT WmuFlyMenuNotify(WPARAM, LPARAM);
     // The map's view changed: the direction window follows it.
     LRESULT WmuFieldChange(WPARAM, LPARAM);
     // The LPARAM is the AstroObject* the finder chose, which the map brings into view.
@@ -226,6 +264,12 @@ private:
 
     // The parent of the dialogs: this window once it is shown, its parent before.
     TWindow* DialogParent();
+    // What the parent, the host, answers to a message; 0 without a parent.
+    LRESULT AskHost(UINT message);
+    static bool HasDefaultState(const std::string& root, const std::string& key);
+    // A sub-menu of the host's fly-out at `level`, filled from a menu resource; null when the
+    // host has no fly-out menu.
+    HostFlyMenu* LoadFlyout(int level, int menu, bool replaceStrings);
     // Whether the host shows the component full screen.
     bool IsFullScreen();
     // Takes a side window away: the pointer is cleared before the window goes.

@@ -5,9 +5,11 @@
 // The program loads the library at run time and links nothing of it, so that the one window
 // system in the library serves both the host's frame and the component inside it. It looks
 // this table up by the name orbiscope_host_kit and calls through it: open a desktop (the
-// display, or the headless one for pictures), make a frame window, set a view on the map,
-// save the map as a picture or print it as a chart, start the sky game, run the message loop.
-// The table speaks plain C; window handles are the 32-bit numbers the entry returns.
+// display, or the headless one for pictures), make a frame window (the bare one for pictures,
+// the main window with its title bar, menu, keys, bookmarks and help on a display), check the
+// data and a command string before the component gets them, set a view on the map, save the
+// map as a picture or print it as a chart, start the sky game, run the message loop. The table
+// speaks plain C; window handles are the 32-bit numbers the entry returns.
 #include <cstddef>
 #include <cstdint>
 
@@ -65,8 +67,9 @@ struct OrbiscopeHostKit
     // Sets the view on the map of a component window; 0 when the handle is not one.
     int (*SetView)(std::uint32_t component, const OrbiscopeView* view);
     // Lets every waiting message and paint run, then writes what the map of a component
-    // window shows to a PNG file; 0 when that fails.
-    int (*SaveMapPicture)(std::uint32_t component, const char* path);
+    // window shows to a PNG file and gives the picture's size (either pointer may be null);
+    // 0 when that fails.
+    int (*SaveMapPicture)(std::uint32_t component, const char* path, int* width, int* height);
     // Runs the message loop until the last frame closes; the loop's exit code.
     int (*RunMessageLoop)(void);
     // Destroys a frame window made by CreateFrame and everything in it.
@@ -81,9 +84,31 @@ struct OrbiscopeHostKit
     // Opens the sky game in a window of its own (or brings it to the front); 0 when it cannot
     // be made. The game ends with its window, and with the message loop when it is the last.
     int (*StartSkyhunt)(void);
+    // The host's main window on a display, with `width` by `height` pixels for the component
+    // below its title bar strip, installed as the host's frame with the help handler; its
+    // handle, 0 when it cannot be made.
+    std::uint32_t (*CreateMainWindow)(const char* title, int width, int height);
+    // Puts the component made in a main window under its title bar and asks it for its menu;
+    // 0 when either handle is not what it should be.
+    int (*AttachComponent)(std::uint32_t frame, std::uint32_t component);
+    // 1 when the star files the planetarium needs are there; otherwise 0 with the files that
+    // are missing and where they were looked for in `error`.
+    int (*CheckData)(char* error, std::size_t errorSize);
+    // 1 when the component can use the command string (an empty one too): a full state with
+    // every key of a bookmark, an object named by "stringref" or "uid" that exists; otherwise
+    // 0 with what is wrong in `error`. With a view (a picture or a chart), a full state needs
+    // only the keys of where and when the map looks that the view's options do not give.
+    int (*CheckCommand)(const char* command, const OrbiscopeView* view, char* error,
+                        std::size_t errorSize);
+    // With 0 the user's settings are only read from then on: nothing is written and no store
+    // is made (pictures and charts leave the saved views alone).
+    void (*KeepSettings)(int keep);
+    // A message box with the text over a frame window (or on its own for 0), until the user
+    // closes it.
+    void (*ShowMessage)(std::uint32_t frame, const char* text);
 };
 
-inline constexpr int kOrbiscopeHostKitVersion = 4;
+inline constexpr int kOrbiscopeHostKitVersion = 5;
 
 const OrbiscopeHostKit* orbiscope_host_kit(void);
 

@@ -227,6 +227,8 @@ public:
     void ContinueScrolling();
     void StopScrolling();
     bool IsScrolling() const { return bScrolling; }
+    // The last scrolling asked for: its direction, interval and step.
+    const AstroScrollInfo& GetScrollInfo() const { return ScrollInfo; }
     // Brings an object into view. Before the first draw the object waits for it. An object
     // below the horizon brings questions: to see it rise (the time moves), or, for one that
     // never rises or when the view may sink below the horizon, to see where it is now.

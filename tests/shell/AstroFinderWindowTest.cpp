@@ -64,6 +64,7 @@ protected:
     }
     AstroNoxWindow& StartFullScreen(const char* command = kChart)
     {
+        CancelFirstStart();
         const std::uint32_t handle = orbiscope(Host.HWindow, command);
         auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(HWND(std::uintptr_t(handle))));
         Pump();

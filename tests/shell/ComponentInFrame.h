@@ -31,13 +31,23 @@ protected:
     }
 
     // The component entered into the frame with `command` as the host does, unpainted: the
-    // host's loop has not turned yet.
+    // host's loop has not turned yet. The first start's location dialog is cancelled, so that
+    // the map keeps its own start and nothing is saved.
     AstroNoxWindow& Enter(const char* command)
     {
+        CancelFirstStart();
         const std::uint32_t handle = orbiscope(FrameWindow.HWindow, command);
         auto* window = dynamic_cast<AstroNoxWindow*>(GetWindowPtr(HWND(std::uintptr_t(handle))));
         EXPECT_NE(window, nullptr) << command;
         return *window;
+    }
+    // At a first start the component asks for the place: the dialog is cancelled.
+    void CancelFirstStart()
+    {
+        if (!AstroNoxWindow::HasDefaultState()) {
+            Desk().AnswerNextModal(
+                [](TWindow& dialog) { HeadlessBackend::PressButton(dialog, IDCANCEL); });
+        }
     }
     // The component entered and painted.
     AstroNoxWindow& Start(const char* command = nullptr)

@@ -201,6 +201,11 @@ TEST_F(Dialogs, UnansweredOrTemplatelessDialogsEndAtOnce)
     YearDialog dialog(nullptr);
     EXPECT_EQ(dialog.Execute(), IDCANCEL);
     EXPECT_EQ(Desk().GetUnansweredCount(), ++nUnansweredBefore);
+    // An answer that types but never closes the dialog fails the test as much as none.
+    Desk().AnswerNextModal(
+        [](TWindow& window) { HeadlessBackend::TypeInto(window, kYearId, "1"); });
+    EXPECT_EQ(dialog.Execute(), IDCANCEL);
+    EXPECT_EQ(Desk().GetUnansweredCount(), ++nUnansweredBefore);
     TDialog missing(nullptr, TResId(4242));
     EXPECT_EQ(missing.Execute(), -1);
     EXPECT_EQ(missing.HWindow, nullptr);

@@ -42,6 +42,7 @@ public:
     void SetCursorShape(int cursorId) override { nCursor = cursorId; }
     TSize GetScreenSize() const override { return Screen; }
     bool ModalStarted(HWND window) override;
+    void ModalLeftOpen(HWND) override { ++nUnanswered; }
 
     // Virtual time: moves the clock on, firing the timers that fall due on the way.
     void AdvanceTime(DWORD milliseconds);
@@ -69,7 +70,8 @@ public:
     using ModalAnswer = std::function<void(TWindow& window)>;
     void AnswerNextModal(ModalAnswer answer);
     std::size_t GetWaitingAnswers() const { return Answers.size(); }
-    // Modal windows that were closed because nobody answered them.
+    // Modal windows that were closed because nobody answered them or their answer left them
+    // open.
     int GetUnansweredCount() const { return nUnanswered; }
 
     // Helpers for answers: click the control of an id in its middle; click into the control

@@ -2,10 +2,13 @@
 
 #include <SDL.h>
 
+#include <cstdlib>
+
 #include "platform/DebugStream.h"
 #include "platform/DeviceCaps.h"
 #include "platform/TWindow.h"
 #include "platform/WindowSystem.h"
+#include "platform/sdl/X11Display.h"
 
 namespace {
 
@@ -62,6 +65,9 @@ UINT VirtualKeyOf(SDL_Keycode key)
     case SDLK_LALT:
     case SDLK_RALT:
         return VK_MENU;
+    case SDLK_APPLICATION:
+    case SDLK_MENU:
+        return VK_APPS;
     default:
         return 0;
     }
@@ -124,9 +130,30 @@ std::string ToLatin1(const char* utf8)
 
 std::unique_ptr<SdlBackend> SdlBackend::Open(std::string& error)
 {
+    const char* named = std::getenv("SDL_VIDEODRIVER");
+    const bool chosen = named && *named;
+    const char* x = std::getenv("DISPLAY");
+    if (!chosen) {
+        SDL_SetHint(SDL_HINT_VIDEODRIVER, x && *x ? "x11" : "wayland");
+    }
+    // The windows are drawn in memory and copied to the screen: SDL is not to make a renderer
+    // for that, which would make each window anew at its first picture and lose what was set
+    // on it for the window manager (its smallest size).
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
-        error = SDL_GetError();
+        error = x && *x && !chosen ? std::string("the X display \"") + x +
+                                         "\" cannot be reached (" + SDL_GetError() + ")"
+                                   : SDL_GetError();
         return nullptr;
+    }
+    const std::string driver = SDL_GetCurrentVideoDriver() ? SDL_GetCurrentVideoDriver() : "";
+    if (!chosen && driver != "x11" && driver != "wayland") {
+        error = "no display, only SDL's \"" + driver + "\" driver, which shows nothing";
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
+        return nullptr;
+    }
+    if (driver == "x11") {
+        PrepareX11Display();
     }
     std::unique_ptr<SdlBackend> backend(new SdlBackend);
     SDL_StartTextInput();
@@ -181,6 +208,11 @@ void SdlBackend::DestroyNativeWindow(HWND window)
     Handles.erase(SDL_GetWindowID(found->second));
     SDL_DestroyWindow(found->second);
     Windows.erase(found);
+    // A window that goes with the keyboard (a menu, a dialog) leaves it to no window at all on
+    // X: the active one takes it back.
+    if (HWND active = WindowSystem::Get().GetActiveWindow(); active && active != window) {
+        ActivateNativeWindow(active);
+    }
 }
 
 SDL_Window* SdlBackend::GetNativeWindow(HWND window) const
@@ -201,6 +233,12 @@ void SdlBackend::ShowNativeWindow(HWND window, bool visible)
         if (visible) {
             SDL_ShowWindow(native);
             SDL_RaiseWindow(native);
+            // A window shown takes the keyboard: without a window manager nothing else gives
+            // it, and the keys would go nowhere. A menu leaves it with its owner, which routes
+            // the keys to it.
+            if (!(SDL_GetWindowFlags(native) & SDL_WINDOW_POPUP_MENU)) {
+                SDL_SetWindowInputFocus(native);
+            }
         } else {
             SDL_HideWindow(native);
         }
@@ -213,6 +251,31 @@ void SdlBackend::MoveNativeWindow(HWND window, const TRect& screenRect)
         SDL_SetWindowPosition(native, screenRect.left, screenRect.top);
         SDL_SetWindowSize(native, std::max(1, screenRect.Width()),
                           std::max(1, screenRect.Height()));
+    }
+}
+
+void SdlBackend::SetNativeResizable(HWND window, TSize minimum)
+{
+    if (SDL_Window* native = GetNativeWindow(window)) {
+        SDL_SetWindowResizable(native, SDL_TRUE);
+        SDL_SetWindowMinimumSize(native, std::max(1, minimum.cx), std::max(1, minimum.cy));
+    }
+}
+
+void SdlBackend::ActivateNativeWindow(HWND window)
+{
+    // Without it the keyboard would stay with a window that is gone (a menu, a dialog), which
+    // on X leaves it with no window at all.
+    SDL_Window* native = GetNativeWindow(window);
+    if (native && (SDL_GetWindowFlags(native) & SDL_WINDOW_SHOWN)) {
+        SDL_SetWindowInputFocus(native);
+    }
+}
+
+void SdlBackend::SetNativeBordered(HWND window, bool bordered)
+{
+    if (SDL_Window* native = GetNativeWindow(window)) {
+        SDL_SetWindowBordered(native, bordered ? SDL_TRUE : SDL_FALSE);
     }
 }
 

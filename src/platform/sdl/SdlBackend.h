@@ -18,7 +18,10 @@ union SDL_Event;
 class SdlBackend : public WindowBackend
 {
 public:
-    // Starts SDL's video; null, with the reason in `error`, when no display can be opened.
+    // Starts SDL's video on the display: X when DISPLAY is set, else Wayland, unless
+    // SDL_VIDEODRIVER names a driver. Null, with the reason in `error`, when no display can be
+    // opened; SDL's fallbacks that show nothing to anybody (offscreen, dummy) count as none
+    // unless they were named.
     static std::unique_ptr<SdlBackend> Open(std::string& error);
     ~SdlBackend() override;
 
@@ -32,6 +35,9 @@ public:
     void ShowNativeWindow(HWND window, bool visible) override;
     void MoveNativeWindow(HWND window, const TRect& screenRect) override;
     void SetNativeTitle(HWND window, const std::string& title) override;
+    void SetNativeResizable(HWND window, TSize minimum) override;
+    void ActivateNativeWindow(HWND window) override;
+    void SetNativeBordered(HWND window, bool bordered) override;
     void Present(HWND window, const Surface& surface, const TRect& area) override;
     bool PumpEvents(int waitMs) override;
     DWORD Now() const override;
