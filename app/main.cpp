@@ -167,6 +167,17 @@ std::optional<Component> LoadComponent(std::string& error)
     return std::nullopt;
 }
 
+// The component, or nothing after saying on standard error why it could not be loaded.
+std::optional<Component> LoadComponentOrSay()
+{
+    std::string error;
+    std::optional<Component> component = LoadComponent(error);
+    if (!component) {
+        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
+    }
+    return component;
+}
+
 HWND ToHandle(std::uint32_t handle)
 {
     return reinterpret_cast<HWND>(std::uintptr_t(handle));
@@ -483,9 +494,8 @@ int MakeWithoutDisplay(const std::vector<std::string>& args, Making making)
         std::fprintf(stderr, "orbiscope %s: %s (see orbiscope --help)\n", command, error.c_str());
         return kExitUsage;
     }
-    std::optional<Component> component = LoadComponent(error);
+    std::optional<Component> component = LoadComponentOrSay();
     if (!component) {
-        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
         return kExitFailure;
     }
     const OrbiscopeHostKit& kit = *component->Kit;
@@ -587,10 +597,8 @@ int RunOnDisplay(const std::vector<std::string>& args)
                      "See orbiscope --help for the view options.\n");
         return kExitFailure;
     }
-    std::string error;
-    std::optional<Component> component = LoadComponent(error);
+    std::optional<Component> component = LoadComponentOrSay();
     if (!component) {
-        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
         return kExitFailure;
     }
     const OrbiscopeHostKit& kit = *component->Kit;
@@ -643,10 +651,8 @@ int RunSkyhunt()
                              "nor WAYLAND_DISPLAY is set)\n");
         return kExitFailure;
     }
-    std::string error;
-    std::optional<Component> component = LoadComponent(error);
+    std::optional<Component> component = LoadComponentOrSay();
     if (!component) {
-        std::fprintf(stderr, "orbiscope: cannot load the planetarium: %s\n", error.c_str());
         return kExitFailure;
     }
     const OrbiscopeHostKit& kit = *component->Kit;
