@@ -657,7 +657,7 @@ int RunSkyhunt()
     }
     const OrbiscopeHostKit& kit = *component->Kit;
     char reason[256] = {};
-    if (!kit.OpenDesktop(1, reason, sizeof reason)) {
+    if (!OpenDisplay(kit, reason, sizeof reason)) {
         std::fprintf(stderr, "orbiscope skyhunt: cannot open the display: %s\n", reason);
         return kExitFailure;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "host/HostCmdLine.h"
 #include "platform/Registry.h"
@@ -80,9 +81,9 @@ std::vector<std::string> HostBookmarkList::KeyNames() const
     return names;
 }
 
-std::vector<HostBookmark> HostBookmarkList::Read() const
+std::vector<std::pair<std::string, HostBookmark>> HostBookmarkList::ReadNamed() const
 {
-    std::vector<HostBookmark> bookmarks;
+    std::vector<std::pair<std::string, HostBookmark>> bookmarks;
     for (const std::string& name : KeyNames()) {
         HKEY key = nullptr;
         if (RegOpenKeyExA(HKEY_CURRENT_USER, (std::string(kStoreKey) + "\\" + name).c_str(), 0,
@@ -93,8 +94,17 @@ std::vector<HostBookmark> HostBookmarkList::Read() const
                               ReadText(key, "Command"));
         RegCloseKey(key);
         if (!bookmark.Command.empty()) {
-            bookmarks.push_back(bookmark);
+            bookmarks.emplace_back(name, bookmark);
         }
+    }
+    return bookmarks;
+}
+
+std::vector<HostBookmark> HostBookmarkList::Read() const
+{
+    std::vector<HostBookmark> bookmarks;
+    for (auto& [name, bookmark] : ReadNamed()) {
+        bookmarks.push_back(std::move(bookmark));
     }
     return bookmarks;
 }
@@ -121,20 +131,12 @@ bool HostBookmarkList::Add(const HostBookmark& bookmark)
 
 bool HostBookmarkList::Remove(std::size_t index)
 {
-    std::size_t place = 0;
-    for (const std::string& name : KeyNames()) {
-        HKEY key = nullptr;
-        const std::string path = std::string(kStoreKey) + "\\" + name;
-        if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
-            continue;
-        }
-        const bool listed = !ReadText(key, "Command").empty();
-        RegCloseKey(key);
-        if (listed && place++ == index) {
-            return RegDeleteKeyA(HKEY_CURRENT_USER, path.c_str()) == ERROR_SUCCESS;
-        }
+    const auto listed = ReadNamed();
+    if (index >= listed.size()) {
+        return false;
     }
-    return false;
+    const std::string path = std::string(kStoreKey) + "\\" + listed[index].first;
+    return RegDeleteKeyA(HKEY_CURRENT_USER, path.c_str()) == ERROR_SUCCESS;
 }
 
 std::vector<std::string> HostBookmarkList::MissingKeys(const std::string& command)

@@ -10,6 +10,7 @@
 // edited by hand would otherwise restore a view of nothing at all ("November 30, 2 BC", a
 // field of 0 and no stars).
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/HostBookmark.h"
@@ -35,4 +36,6 @@ public:
 
 private:
     std::vector<std::string> KeyNames() const;
+    // The listed bookmarks, oldest first, each with the name of its key in the store.
+    std::vector<std::pair<std::string, HostBookmark>> ReadNamed() const;
 };

@@ -9,6 +9,7 @@
 #include "platform/MenuData.h"
 #include "platform/WindowCalls.h"
 #include "platform/WindowSystem.h"
+#include "projection/AstroScrollInfo.h"
 
 namespace {
 
@@ -18,13 +19,6 @@ constexpr UINT kDoCommandMessage = WM_APP + 1;
 
 // The help topic of the main window: the top of the help page.
 constexpr const char* kHelpTopic = "Planetarium";
-
-// The directions of the view's scrolling. Azimuths count from north through west, so the
-// view turns left as its azimuth goes up; 3 and 4 go towards the zenith and the horizon.
-constexpr int kScrollLeft = 1;
-constexpr int kScrollRight = 2;
-constexpr int kScrollUp = 3;
-constexpr int kScrollDown = 4;
 
 // A key and the command it gives. Keys without Ctrl that type are left to a control that
 // wants them; the function keys never are.
@@ -87,17 +81,19 @@ void AddKeyLabels(HMENU menu)
     }
 }
 
+// The view's scrolling for an arrow key. Azimuths count from north through west, so the view
+// turns left as its azimuth goes up.
 int ScrollDirectionOf(UINT key)
 {
     switch (key) {
     case VK_LEFT:
-        return kScrollLeft;
+        return AstroScrollInfo::AZIMUTH_UP;
     case VK_RIGHT:
-        return kScrollRight;
+        return AstroScrollInfo::AZIMUTH_DOWN;
     case VK_UP:
-        return kScrollUp;
+        return AstroScrollInfo::TOWARDS_ZENITH;
     case VK_DOWN:
-        return kScrollDown;
+        return AstroScrollInfo::TOWARDS_HORIZON;
     default:
         return 0;
     }
@@ -274,10 +270,6 @@ LRESULT HostMainFrame::EvMouseWheel(UINT, int delta, TPoint&)
 
 void HostMainFrame::DoCommand(UINT command)
 {
-    std::vector<HostBookmark> kept;
-    if (command >= kFirstBookmarkCommand && command < kFirstDeleteCommand + kMostBookmarks) {
-        kept = Bookmarks.Read();
-    }
     switch (command) {
     case kHostFullScreenCommand:
         SetFullScreen(true);
@@ -317,6 +309,7 @@ void HostMainFrame::DoCommand(UINT command)
         break;
     }
     if (command >= kFirstBookmarkCommand && command < kFirstBookmarkCommand + kMostBookmarks) {
+        const std::vector<HostBookmark> kept = Bookmarks.Read();
         if (command - kFirstBookmarkCommand < kept.size()) {
             OpenBookmark(kept[command - kFirstBookmarkCommand]);
         }

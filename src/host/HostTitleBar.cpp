@@ -1,5 +1,6 @@
 #include "host/HostTitleBar.h"
 
+#include "catalogues/StringParser.h"
 #include "host/HostFrameAPI.h"
 #include "host/HostStringTable.h"
 #include "platform/ControlLook.h"
@@ -28,13 +29,6 @@ TColor FrameColor(int index, COLORREF fallback)
     return frame ? frame->GetColor(index) : TColor(fallback);
 }
 
-std::string Trimmed(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 } // namespace
 
 HostTitleBar::HostTitleBar(TWindow* parent) : TWindow(parent)
@@ -46,7 +40,7 @@ HostTitleBar::HostTitleBar(TWindow* parent) : TWindow(parent)
 void HostTitleBar::Initialize(const TDib* icon, const std::string& title, int fontHeight, int)
 {
     pIcon = icon;
-    Title = Trimmed(title);
+    Title = StripBlanks(title);
     nFontHeight = fontHeight > 0 ? fontHeight : 13;
     Invalidate();
 }
@@ -89,9 +83,10 @@ void HostTitleBar::Paint(TDC& dc, bool, TRect&)
     dc.SelectObject(TFont("Arial", -nFontHeight, 0, 0, 0, FW_BOLD));
     const UINT line = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
     const TRect title(x, 0, button.left - kMargin, client.bottom);
-    TextLayout(dc, Title, title.Width(), line).Draw(dc, title);
+    const TextLayout titleLayout(dc, Title, title.Width(), line);
+    titleLayout.Draw(dc, title);
     if (!Note.empty()) {
-        const int after = x + TextLayout(dc, Title, title.Width(), line).GetWidth() + 6 * kMargin;
+        const int after = x + titleLayout.GetWidth() + 6 * kMargin;
         dc.SelectObject(TFont("Arial", -nFontHeight));
         const TRect note(after, 0, button.left - kMargin, client.bottom);
         TextLayout(dc, Note, note.Width(), line).Draw(dc, note);

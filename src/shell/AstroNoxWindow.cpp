@@ -687,8 +687,6 @@ void AstroNoxWindow::UpdateDirectionWindow()
 void AstroNoxWindow::CmDisplayLocatorControls()
 {
     SetFinderWindowState(pFinder == nullptr);
-    LayoutWindows(GetClientRect().Size());
-    Layout();
 }
 
 void AstroNoxWindow::SetMessierObjectsDisplay(bool show)

@@ -247,15 +247,23 @@ void OrbiscopeWindowInterface::RemoveAddedObject(AstroObject& object)
     map->ForceReload();
 }
 
-void OrbiscopeWindowInterface::RefreshObject(AstroObject&)
+void OrbiscopeWindowInterface::RefreshObject(AstroObject& object)
 {
     MapWindow* map = Map("RefreshObject");
     if (!map) {
         return;
     }
-    // An unchanged view would otherwise keep the list of the last draw, without an object added
-    // since, and with the grid shown the paint would only copy the last frame.
-    map->ForceReload();
+    // An unchanged view keeps the list of its last draw: an object added since is fetched by
+    // a reload; one already in the list is drawn again as it now looks by the redraw alone,
+    // as each step of a fade needs.
+    const AstroList& visible = map->GetVisibleObjects();
+    bool listed = false;
+    for (std::size_t i = 0; i < visible.GetCount() && !listed; ++i) {
+        listed = visible[i] == &object;
+    }
+    if (!listed) {
+        map->ForceReload();
+    }
     map->RedrawNow();
 }
 

@@ -117,12 +117,10 @@ int OpenDesktop(int display, char* error, std::size_t errorSize)
     return 1;
 }
 
-std::uint32_t CreateFrame(const char* title, int width, int height)
+// Creates the frame's window, makes it the frame the component sees, and keeps it under the
+// handle returned; 0 when the window could not be made.
+std::uint32_t Keep(std::unique_ptr<HostFrameWindow> frame)
 {
-    if (width <= 0 || height <= 0) {
-        return 0;
-    }
-    auto frame = std::make_unique<HostFrameWindow>(title ? title : "", width, height);
     if (!frame->Create()) {
         return 0;
     }
@@ -130,6 +128,14 @@ std::uint32_t CreateFrame(const char* title, int width, int height)
     const auto handle = std::uint32_t(reinterpret_cast<std::uintptr_t>(frame->HWindow));
     Frames()[handle] = std::move(frame);
     return handle;
+}
+
+std::uint32_t CreateFrame(const char* title, int width, int height)
+{
+    if (width <= 0 || height <= 0) {
+        return 0;
+    }
+    return Keep(std::make_unique<HostFrameWindow>(title ? title : "", width, height));
 }
 
 int GetMapInset()
@@ -254,13 +260,10 @@ std::uint32_t CreateMainWindow(const char* title, int width, int height)
             component->ScrollMap(direction);
         }
     });
-    if (!frame->Create()) {
-        return 0;
+    const std::uint32_t handle = Keep(std::move(frame));
+    if (handle) {
+        InstallHostHelp();
     }
-    Frame().SetFrameWindow(window);
-    InstallHostHelp();
-    const auto handle = std::uint32_t(reinterpret_cast<std::uintptr_t>(frame->HWindow));
-    Frames()[handle] = std::move(frame);
     return handle;
 }
 

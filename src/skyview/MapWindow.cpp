@@ -564,7 +564,7 @@ void MapWindow::DisplayStatus(TDC& dc, const TRect&)
     if (!Display.bShowStatus) {
         return;
     }
-    MeasureStatus(dc);
+    // The text and its place were made by MeasureStatus earlier in the same draw.
     bStatusDirty = false;
     dc.SelectObject(StatusFont());
     dc.SetBkMode(TRANSPARENT);
